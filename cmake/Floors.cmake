@@ -1,0 +1,40 @@
+# One floor of the house is one folder below src/ and one static library. A floor's link list is
+# the statement of what it stands on; the house check of the test suite compares it with the
+# includes and with the table in docs/architecture.md.
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+add_library(quorvel_options INTERFACE)
+if(MSVC)
+    target_compile_options(quorvel_options INTERFACE /W4 /WX /utf-8 /permissive-)
+else()
+    target_compile_options(quorvel_options INTERFACE
+        -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wsign-conversion
+        -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast -Wcast-align
+        # Old versions of the record formats are told apart by value, never by enum alone.
+        -Wno-switch-enum
+        # ccache keeps precompiled headers apart from this flag only.
+        -fpch-preprocess)
+endif()
+target_include_directories(quorvel_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_definitions(quorvel_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(QUORVEL_SANITIZE)
+    target_compile_options(quorvel_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(quorvel_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# quorvel_floor(<name> SOURCES <files...> STANDS_ON <floors and libraries...>)
+function(quorvel_floor name)
+    cmake_parse_arguments(FLOOR "" "" "SOURCES;STANDS_ON" ${ARGN})
+    add_library(quorvel_${name} STATIC ${FLOOR_SOURCES})
+    target_link_libraries(quorvel_${name} PUBLIC quorvel_options ${FLOOR_STANDS_ON})
+    if(NOT name STREQUAL store)  # the one floor without Qt
+        set_target_properties(quorvel_${name} PROPERTIES AUTOMOC ON AUTORCC ON)
+    endif()
+endfunction()

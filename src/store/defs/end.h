@@ -1,0 +1,5 @@
+#undef TEXT
+#undef TEXTS
+#undef INT
+#undef INTS
+#undef SLOTS

@@ -1,0 +1,56 @@
+/// An open file, portable: the one unit that opens, reads and writes files by position.
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <span>
+
+namespace quorvel::store {
+
+/// Owns an open file; closing may also be left to the destructor, which cannot report an error.
+/// Every failure is thrown as `RuntimeError`. There is no buffer of its own: each read and each
+/// write is one call to the system.
+class FileHandle {
+  public:
+    FileHandle() = default;
+
+    /// Opens an existing regular file for reading and writing, or for reading alone where writing
+    /// is refused. Anything that is not a regular file (a folder, a pipe, a device) is refused.
+    static FileHandle open(const std::filesystem::path& path);
+    /// Creates the file if it is missing, then as `open`.
+    static FileHandle openOrCreate(const std::filesystem::path& path);
+
+    [[nodiscard]] bool isOpen() const { return file_ != nullptr; }
+    [[nodiscard]] bool isWritable() const { return writable_; }
+    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+    [[nodiscard]] std::uintmax_t size() const;
+
+    /// Reads at `offset` bytes from the start; returns the bytes read, fewer than asked only at the
+    /// end of the file. Never makes the file longer.
+    std::size_t readAt(std::uintmax_t offset, std::span<char> into);
+
+    /// Writes all of `bytes` at `offset` in one call. When that fails the file keeps the length
+    /// that it had.
+    void writeAt(std::uintmax_t offset, std::span<const char> bytes);
+
+    /// Closes the file and reports an error of it. Closing a closed handle does nothing.
+    void close();
+
+  private:
+    struct Closer {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+    FileHandle(std::FILE* file, std::filesystem::path path, bool writable);
+    void seek(std::uintmax_t offset);
+
+    std::unique_ptr<std::FILE, Closer> file_;
+    std::filesystem::path path_;
+    bool writable_ = false;
+};
+
+/// Reads a whole file in one piece. Throws `RuntimeError`.
+std::string readWholeFile(const std::filesystem::path& path);
+
+}  // namespace quorvel::store

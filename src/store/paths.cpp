@@ -1,0 +1,109 @@
+#include "store/paths.h"
+
+#include <algorithm>
+#include <system_error>
+
+#include "store/text_codec.h"
+
+namespace quorvel::store {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Lower case of one byte of the code page.
+char lower(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    const bool latinCapital = byte >= 0xC0 && byte <= 0xDE && byte != 0xD7;
+    if ((c >= 'A' && c <= 'Z') || latinCapital) {
+        return static_cast<char>(byte + 0x20U);
+    }
+    switch (byte) {
+        case 0x8A:
+        case 0x8C:
+        case 0x8E:
+            return static_cast<char>(byte + 0x10U);
+        case 0x9F:
+            return static_cast<char>(0xFFU);
+        default:
+            return c;
+    }
+}
+
+/// The entry of `folder` that is `name`, as it is spelt on disk; `name` itself when there is none.
+fs::path spelling(const fs::path& folder, const std::string& name) {
+    std::error_code error;
+    const fs::path exact = folder / pathOf(name);
+    if (fs::exists(fs::symlink_status(exact, error))) {
+        return exact;
+    }
+    fs::directory_iterator entry(folder, error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        if (sameName(textOf(entry->path().filename()), name)) {
+            return entry->path();
+        }
+    }
+    return exact;
+}
+
+}  // namespace
+
+fs::path pathOf(std::string_view utf8) {
+    return {std::u8string(utf8.begin(), utf8.end())};
+}
+
+std::string textOf(const fs::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+bool sameName(std::string_view a, std::string_view b) {
+    if (a == b) {
+        return true;
+    }
+    if (!fitsCodePage(a) || !fitsCodePage(b)) {
+        return false;
+    }
+    return std::ranges::equal(encodeText(a), encodeText(b),
+                              [](char x, char y) { return lower(x) == lower(y); });
+}
+
+fs::path resolvePath(const fs::path& base, std::string_view relative) {
+    fs::path path = base;
+    while (!relative.empty()) {
+        const auto end = std::min(relative.find_first_of("/\\"), relative.size());
+        const std::string step(relative.substr(0, end));
+        relative.remove_prefix(std::min(end + 1, relative.size()));
+        if (!step.empty()) {
+            path = spelling(path, step);
+        }
+    }
+    return path;
+}
+
+bool isBareName(std::string_view name) {
+    const auto forbidden = [](char c) {
+        return static_cast<unsigned char>(c) < 0x20 || c == 0x7F || c == '/' || c == '\\' ||
+               c == ':';
+    };
+    return !name.empty() && name != "." && name != ".." && std::ranges::none_of(name, forbidden);
+}
+
+fs::path resourceFolder(const fs::path& projectFolder, ResourceFolder kind) {
+    return resolvePath(projectFolder,
+                       kind == ResourceFolder::gfx ? "resource/gfx" : "resource/mmedia");
+}
+
+std::optional<fs::path> findResource(const fs::path& projectFolder, ResourceFolder kind,
+                                     std::string_view name) {
+    if (!isBareName(name)) {
+        return std::nullopt;
+    }
+    const fs::path path = spelling(resourceFolder(projectFolder, kind), std::string(name));
+    std::error_code error;
+    if (!fs::is_regular_file(path, error)) {
+        return std::nullopt;
+    }
+    return path;
+}
+
+}  // namespace quorvel::store

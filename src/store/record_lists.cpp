@@ -1,0 +1,63 @@
+#include "store/record_lists.h"
+
+namespace quorvel::store {
+namespace {
+
+/// One pass over a store for one text of each record.
+template <class Record, class Name>
+std::vector<ListEntry> readNames(RecordFile<Record>& file, Name name) {
+    std::vector<ListEntry> entries;
+    entries.reserve(static_cast<std::size_t>(file.count()));
+    file.readAll([&](int first, int count, std::span<const char> block) {
+        const auto* records = reinterpret_cast<const Record*>(block.data());
+        for (int i = 0; i < count; ++i) {
+            entries.push_back({first + i, (records[i].*name).text(), 0});
+        }
+    });
+    return entries;
+}
+
+}  // namespace
+
+std::string listText(int number, const std::string& name) {
+    return std::to_string(number) + " (" + name + ")";
+}
+
+std::vector<ListEntry> readSceneNames(RecordFile<SceneRecord>& file) {
+    return readNames(file, &SceneRecord::SceneName);
+}
+
+std::vector<ListEntry> readItemNames(RecordFile<ItemRecord>& file) {
+    return readNames(file, &ItemRecord::ItemName);
+}
+
+std::vector<ListEntry> readCardNames(RecordFile<CueCardRecord>& file) {
+    return readNames(file, &CueCardRecord::CardName);
+}
+
+bool isLocation(int number, const LocationRecord& record) {
+    const std::string image = record.LocationImage.text();
+    return image != "Del" && (number != 1 || !image.empty());
+}
+
+void readLocations(RecordFile<LocationRecord>& file, ProjectLists& lists) {
+    lists.locations.clear();
+    lists.mapIcons.clear();
+    lists.MapImage = file.read(1).MapImage.text();
+    file.readAll([&](int first, int count, std::span<const char> block) {
+        const auto* records = reinterpret_cast<const LocationRecord*>(block.data());
+        for (int i = 0; i < count; ++i) {
+            const LocationRecord& record = records[i];
+            const bool there = isLocation(first + i, record);
+            const std::string image = record.LocationImage.text();
+            lists.mapIcons.push_back({first + i, image == "(None)" || !there ? "" : image,
+                                      record.LocationX, record.LocationY, there});
+            if (there) {
+                lists.locations.push_back(
+                    {first + i, record.LocationName.text(), record.LocationScene});
+            }
+        }
+    });
+}
+
+}  // namespace quorvel::store
