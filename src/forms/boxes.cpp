@@ -1,0 +1,60 @@
+#include "forms/boxes.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace quorvel::forms {
+namespace {
+
+QMessageBox::Icon iconOf(Box::Icon icon) {
+    switch (icon) {
+        case Box::Icon::information:
+            return QMessageBox::Information;
+        case Box::Icon::question:
+            return QMessageBox::Question;
+        case Box::Icon::exclamation:
+            return QMessageBox::Warning;
+        case Box::Icon::critical:
+            return QMessageBox::Critical;
+        case Box::Icon::none:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons buttonsOf(Box::Buttons buttons) {
+    switch (buttons) {
+        case Box::Buttons::okCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case Box::Buttons::yesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case Box::Buttons::ok:
+            break;
+    }
+    return QMessageBox::Ok;
+}
+
+}  // namespace
+
+Answer MessageBoxes::show(const Box& box) {
+    QMessageBox window(iconOf(box.icon), box.title, box.text, buttonsOf(box.buttons),
+                       QApplication::activeWindow());
+    window.setObjectName(QStringLiteral("Box"));
+    // Names out of a project may look like markup.
+    window.setTextFormat(Qt::PlainText);
+    if (box.buttons == Box::Buttons::yesNo) {
+        window.setEscapeButton(QMessageBox::No);
+    }
+    switch (window.exec()) {
+        case QMessageBox::Yes:
+            return Answer::yes;
+        case QMessageBox::No:
+            return Answer::no;
+        case QMessageBox::Cancel:
+            return Answer::cancel;
+        default:
+            return Answer::ok;
+    }
+}
+
+}  // namespace quorvel::forms

@@ -1,0 +1,46 @@
+/// Message boxes behind an interface, so that a test can read and answer them.
+#pragma once
+
+#include <cstdint>
+
+#include <QString>
+
+namespace quorvel::forms {
+
+/// Title of a box whose text names none: the program's.
+inline const QString kProgramTitle = QStringLiteral("Quorvel");
+
+struct Box {
+    enum class Icon : std::uint8_t { none, information, question, exclamation, critical };
+    enum class Buttons : std::uint8_t { ok, okCancel, yesNo };
+
+    QString text;  ///< plain text, lines separated by "\n"
+    QString title = kProgramTitle;
+    Icon icon = Icon::none;
+    Buttons buttons = Buttons::ok;
+};
+
+enum class Answer : std::uint8_t { ok, cancel, yes, no };
+
+class Boxes {
+  public:
+    Boxes() = default;
+    Boxes(const Boxes&) = delete;
+    Boxes& operator=(const Boxes&) = delete;
+    virtual ~Boxes() = default;
+
+    /// Shows the box modally and returns the author's answer. Closing a box with Escape or its
+    /// frame answers `cancel` or `no`, or `ok` where that is the only button.
+    virtual Answer show(const Box& box) = 0;
+
+    /// A plain box with an OK button.
+    void tell(const QString& text) { show({.text = text}); }
+};
+
+/// The boxes that an author sees.
+class MessageBoxes : public Boxes {
+  public:
+    Answer show(const Box& box) override;
+};
+
+}  // namespace quorvel::forms

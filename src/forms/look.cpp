@@ -1,0 +1,100 @@
+#include "forms/look.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QPalette>
+#include <QStyleFactory>
+
+// Resources of a static library are not found until they are named; the macro wants the global
+// namespace.
+static void initAssets() {
+    Q_INIT_RESOURCE(assets);
+}
+
+namespace quorvel::forms {
+namespace {
+
+struct Tones {
+    QColor window, text, base, alternate, button, highlight, highlighted, link, disabled;
+};
+
+QPalette paletteOf(const Tones& tones) {
+    QPalette palette(tones.button, tones.window);
+    palette.setColor(QPalette::WindowText, tones.text);
+    palette.setColor(QPalette::Text, tones.text);
+    palette.setColor(QPalette::ButtonText, tones.text);
+    palette.setColor(QPalette::Base, tones.base);
+    palette.setColor(QPalette::AlternateBase, tones.alternate);
+    palette.setColor(QPalette::ToolTipBase, tones.base);
+    palette.setColor(QPalette::ToolTipText, tones.text);
+    palette.setColor(QPalette::Highlight, tones.highlight);
+    palette.setColor(QPalette::HighlightedText, tones.highlighted);
+    palette.setColor(QPalette::Link, tones.link);
+    palette.setColor(QPalette::PlaceholderText, tones.disabled);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, tones.disabled);
+    }
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.disabled);
+    return palette;
+}
+
+QPalette lightPalette() {
+    return paletteOf({.window = QColor(0xf3f3f1),
+                      .text = QColor(0x24282e),
+                      .base = QColor(0xffffff),
+                      .alternate = QColor(0xf0f2f4),
+                      .button = QColor(0xe9eaea),
+                      .highlight = QColor(0x1f8f84),
+                      .highlighted = QColor(0xffffff),
+                      .link = QColor(0x14756b),
+                      .disabled = QColor(0x9a9fa5)});
+}
+
+QPalette darkPalette() {
+    return paletteOf({.window = QColor(0x2b2d30),
+                      .text = QColor(0xdfe2e5),
+                      .base = QColor(0x1f2123),
+                      .alternate = QColor(0x26282b),
+                      .button = QColor(0x3a3d41),
+                      .highlight = QColor(0x1f8f84),
+                      .highlighted = QColor(0xffffff),
+                      .link = QColor(0x4cc4b8),
+                      .disabled = QColor(0x7b8087)});
+}
+
+}  // namespace
+
+Look lookFromEnvironment() {
+    const QString wanted = qEnvironmentVariable("QUORVEL_LOOK").toLower();
+    if (wanted == QStringLiteral("light")) {
+        return Look::light;
+    }
+    return wanted == QStringLiteral("dark") ? Look::dark : Look::desktop;
+}
+
+void applyLook(QApplication& application, Look look) {
+    initAssets();
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    if (look == Look::light) {
+        QApplication::setPalette(lightPalette());
+    } else if (look == Look::dark) {
+        QApplication::setPalette(darkPalette());
+    }
+    application.setWindowIcon(icon(QStringLiteral("quorvel")));
+}
+
+QIcon icon(const QString& name) {
+    initAssets();
+    const QString file = QStringLiteral(":/icons/%1.svg").arg(name);
+    Q_ASSERT(QFile::exists(file));
+    return QIcon(file);
+}
+
+QString stockPicture(const QString& name) {
+    initAssets();
+    const QString file = QStringLiteral(":/stock/%1.svg").arg(name);
+    Q_ASSERT(QFile::exists(file));
+    return file;
+}
+
+}  // namespace quorvel::forms

@@ -1,0 +1,96 @@
+#include "forms/record_lists.h"
+
+namespace quorvel::forms {
+
+RecordListModel::RecordListModel(const std::vector<store::ListEntry>& entries, QObject* parent)
+    : QAbstractListModel(parent), entries_(entries) {}
+
+int RecordListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows_;
+}
+
+QVariant RecordListModel::data(const QModelIndex& index, int role) const {
+    const auto row = static_cast<std::size_t>(index.row());
+    if (!index.isValid() || row >= entries_.size()) {
+        return {};
+    }
+    const store::ListEntry& entry = entries_[row];
+    switch (role) {
+        case Qt::DisplayRole:
+            return QString::fromStdString(store::listText(entry.number, entry.name));
+        case NumberRole:
+            return entry.number;
+        case SceneRole:
+            return int{entry.scene};
+        default:
+            return {};
+    }
+}
+
+void RecordListModel::refresh() {
+    beginResetModel();
+    rows_ = static_cast<int>(entries_.size());
+    endResetModel();
+}
+
+HeadedListModel::HeadedListModel(RecordListModel* source, const QString& firstEntry,
+                                 QObject* parent, int textRole)
+    : QAbstractListModel(parent), source_(source), firstEntry_(firstEntry), textRole_(textRole) {
+    connect(source, &QAbstractItemModel::modelAboutToBeReset, this, [this] { beginResetModel(); });
+    connect(source, &QAbstractItemModel::modelReset, this, [this] { endResetModel(); });
+}
+
+int HeadedListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : source_->rowCount() + 1;
+}
+
+QVariant HeadedListModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid()) {
+        return {};
+    }
+    if (index.row() > 0) {
+        return source_->index(index.row() - 1).data(role == Qt::DisplayRole ? textRole_ : role);
+    }
+    switch (role) {
+        case Qt::DisplayRole:
+            return firstEntry_;
+        case NumberRole:
+        case SceneRole:
+            return 0;
+        default:
+            return {};
+    }
+}
+
+void HeadedListModel::setFirstEntry(const QString& text) {
+    firstEntry_ = text;
+    Q_EMIT dataChanged(index(0), index(0));
+}
+
+int HeadedListModel::rowOf(int number) const {
+    // All lists but that of the locations have record n at row n.
+    if (number >= 0 && number < rowCount() && index(number).data(NumberRole) == number) {
+        return number;
+    }
+    for (int row = 0; row < rowCount(); ++row) {
+        if (index(row).data(NumberRole) == number) {
+            return row;
+        }
+    }
+    return -1;
+}
+
+ProjectListModels::ProjectListModels(const store::ProjectLists& lists)
+    : scenes(lists.scenes, this),
+      locations(lists.locations, this),
+      items(lists.items, this),
+      cards(lists.cards, this) {}
+
+void ProjectListModels::refresh() {
+    scenes.refresh();
+    locations.refresh();
+    items.refresh();
+    cards.refresh();
+}
+
+}  // namespace quorvel::forms
