@@ -1,0 +1,163 @@
+/// The scene as the author sees it: its picture, the four links, the objects.
+#pragma once
+
+#include <array>
+#include <filesystem>
+#include <string>
+
+#include <QWidget>
+
+#include "canvas/elements.h"
+#include "canvas/texts.h"
+#include "forms/pictures.h"
+#include "store/project.h"
+#include "store/scene.h"
+
+namespace quorvel::canvas {
+
+/// The frame in the middle of the main window with the canvas in it.
+///
+/// Data flow: the shell loads a scene into memory and calls `ShowSceneObjects`, which makes the
+/// elements follow the memory. What the author does on the canvas goes into the memory at once,
+/// but for the links, which `StoreLinkPlaces` reads back before a save. What the main window shows
+/// of the scene follows the signals.
+///
+/// Every element bears the system's name, `Animation(3)`, and knows its kind and index.
+class SceneView : public QWidget {
+    Q_OBJECT
+  public:
+    /// Size of the canvas and bounds of the scene, in pixels.
+    static constexpr int kSceneWidth = 700;
+    static constexpr int kSceneHeight = 475;
+
+    /// Project, scene and pictures must outlive the view.
+    SceneView(const store::Project& project, store::Scene& scene, forms::PictureStore& pictures,
+              QWidget* parent);
+
+    /// Shows the picture in `file`, measures it and lets the scene alert follow. One that cannot be
+    /// shown leaves the canvas without a picture, raises the alert and throws: 53 where there is no
+    /// file, 75 where it may not be read, else 481.
+    void GetSceneImage(const std::filesystem::path& file);
+    /// The scene has no picture; there is nothing to alert about.
+    void ClearSceneImage();
+
+    /// Makes links and objects follow the scene in memory. QuickSpots in it become valid.
+    void ShowSceneObjects();
+
+    /// A scene is about to be loaded: alerts off, and but while a project is opened, the objects
+    /// leave the canvas. The scene in memory is not touched, so that a load that fails loses
+    /// nothing.
+    void ClearCanvas();
+    /// The project was closed: nothing is left, and both toggles are off.
+    void ResetCanvas();
+
+    void ToggleBorders(bool on);
+    void ToggleAnimations(bool on);
+
+    /// True when the picture of an object is out of the scene by more than half.
+    [[nodiscard]] bool CheckObjectPositions() const;
+    /// Mode 1 remembers where objects and links are, 2 puts them back there.
+    void RestoreObjectPositions(int mode);
+    /// Puts the links' places into the scene in memory; nothing while no scene is shown. To be
+    /// called before every save.
+    void StoreLinkPlaces();
+
+    [[nodiscard]] bool bordersOn() const { return BordersOn; }
+    [[nodiscard]] bool animationsOn() const { return AnimationsOn; }
+    /// Objects in the scene, 0 to 20.
+    [[nodiscard]] int objectCount() const { return objectCount_; }
+    /// Natural size of the scene's picture; 0 by 0 without one.
+    [[nodiscard]] QSize sceneImageSize() const { return sceneSize_->size(); }
+    [[nodiscard]] bool sceneAlert() const { return sceneAlert_; }
+    [[nodiscard]] bool objectAlert() const { return objectAlert_; }
+    /// What the status line says of an element.
+    [[nodiscard]] StatusText statusOf(const SceneElement& element) const;
+
+  Q_SIGNALS:
+    void sceneAlertChanged(bool on);
+    void objectAlertChanged(bool on);
+    /// The objects were counted; at 20 no more can be inserted.
+    void objectCountChanged(int count);
+    void statusChanged(const quorvel::canvas::StatusText& text);
+    void bordersToggled(bool on);
+    void animationsToggled(bool on);
+    /// Pictures are being loaded; the window bears the wait cursor meanwhile.
+    void loadingChanged(bool loading);
+
+  protected:
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    static constexpr int kObjects = store::kSlotCount;
+    static constexpr int kLinks = 4;
+    /// In `SavedX`: the object has no remembered place.
+    static constexpr std::int16_t kNoPlace = 999;
+
+    /// What `ShowSceneObjects` finds out of the slots before it loads.
+    struct ObjectFile {
+        std::string name;            ///< empty for none
+        std::filesystem::path file;  ///< empty when it is not there
+    };
+    using ObjectFiles = std::array<ObjectFile, kObjects + 1>;
+
+    void makeElements();
+    void name(QWidget* widget, const QString& name, int index);
+    void followPointer(SceneElement* element);
+
+    // The steps of ShowSceneObjects.
+    void placeLinks();
+    void clearObjects(bool betweenEvents);
+    void clearObject(int k);
+    ObjectFile describeObject(int k);
+    void showObject(int k, const ObjectFile& file);
+    void showQuickSpot(int k);
+    void countLoaded();
+    void pictureLoaded(PictureElement& element);
+    void countObjects();
+
+    void setLoading(bool loading);
+    void setSceneAlert(bool on);
+    void setObjectAlert(bool on);
+    void placeBorders();
+    [[nodiscard]] bool isOutOfScene(const PictureElement& element) const;
+    void rememberPositions();
+    void putPositionsBack();
+    void putBack(int k, SceneElement& element);
+    [[nodiscard]] QString sceneName(int number) const;
+    [[nodiscard]] QString linkText(const SceneElement& element) const;
+    void say(const StatusText& text);
+
+    const store::Project& project_;
+    store::Scene& scene_;
+    forms::PictureStore& pictures_;
+
+    // All arrays of elements begin at 1, as the names do; element 0 is not there.
+    QWidget* canvas_ = nullptr;
+    SceneImage* image_ = nullptr;
+    QWidget* sceneSize_ = nullptr;
+    std::array<LinkElement*, kLinks + 1> links_{};
+    std::array<Outline*, kLinks + 1> linkBorders_{};
+    std::array<PictureElement*, kObjects + 1> objects_{};
+    std::array<SceneElement*, kObjects + 1> quickSpots_{};
+    std::array<Outline*, kObjects + 1> borders_{};
+
+    bool BordersOn = false;
+    bool AnimationsOn = false;
+    std::array<std::int16_t, kObjects + kLinks + 1> SavedX{};
+    std::array<std::int16_t, kObjects + kLinks + 1> SavedY{};
+    int PicturesToLoad = 0;
+    int PicturesLoaded = 0;
+
+    int objectCount_ = 0;
+    bool linksPlaced_ = false;
+    bool filling_ = false;
+    bool loading_ = false;
+    bool sceneAlert_ = false;
+    bool objectAlert_ = false;
+    StatusText said_ = emptyStatus();
+};
+
+}  // namespace quorvel::canvas
