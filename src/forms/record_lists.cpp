@@ -41,7 +41,7 @@ HeadedListModel::HeadedListModel(RecordListModel* source, const QString& firstEn
 }
 
 int HeadedListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : source_->rowCount() + 1;
+    return parent.isValid() || firstEntry_.isEmpty() ? 0 : source_->rowCount() + 1;
 }
 
 QVariant HeadedListModel::data(const QModelIndex& index, int role) const {
@@ -63,8 +63,9 @@ QVariant HeadedListModel::data(const QModelIndex& index, int role) const {
 }
 
 void HeadedListModel::setFirstEntry(const QString& text) {
+    beginResetModel();
     firstEntry_ = text;
-    Q_EMIT dataChanged(index(0), index(0));
+    endResetModel();
 }
 
 int HeadedListModel::rowOf(int number) const {

@@ -41,6 +41,7 @@ class HeadedListModel : public QAbstractListModel {
     Q_OBJECT
   public:
     /// `textRole` is what the rows show: their text, or the number behind `SceneRole`.
+    /// Without a first entry the model shows no row at all.
     HeadedListModel(RecordListModel* source, const QString& firstEntry, QObject* parent,
                     int textRole = Qt::DisplayRole);
 

@@ -1,0 +1,28 @@
+#include "forms/file_dialogs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QStringList>
+
+namespace quorvel::forms {
+
+QString toolkitFilter(const QString& filter) {
+    const QStringList fields = filter.split(QLatin1Char('|'), Qt::SkipEmptyParts);
+    QStringList rows;
+    for (qsizetype i = 0; i + 1 < fields.size(); i += 2) {
+        QString patterns = fields[i + 1];
+        patterns.replace(QLatin1Char(';'), QLatin1Char(' '));
+        const QString caption = fields[i].section(QStringLiteral(" ("), 0, 0);
+        rows << QStringLiteral("%1 (%2)").arg(caption, patterns);
+    }
+    return rows.join(QStringLiteral(";;"));
+}
+
+QString SystemFileDialogs::openFile(const FileQuestion& question) {
+    return QFileDialog::getOpenFileName(QApplication::activeWindow(), question.title,
+                                        QDir(question.folder).filePath(question.fileName),
+                                        toolkitFilter(question.filter));
+}
+
+}  // namespace quorvel::forms

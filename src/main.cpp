@@ -1,0 +1,5 @@
+#include "shell/start.h"
+
+int main(int argc, char** argv) {
+    return quorvel::shell::runEditor(argc, argv);
+}

@@ -1,0 +1,88 @@
+#include "shell/editor_settings.h"
+
+#include <algorithm>
+
+#include "store/numbers.h"
+#include "store/paths.h"
+
+namespace quorvel::shell {
+namespace {
+
+QString numbered(const char* name, std::size_t index) {
+    return QString::fromLatin1(name) + QString::number(index + 1);
+}
+
+int number(const QString& text) {
+    return store::valInt(text.toStdString());
+}
+
+}  // namespace
+
+EditorSettings::EditorSettings()
+    : values_(QStringLiteral("TessaroonWorks"), QStringLiteral("Quorvel")) {}
+
+QString EditorSettings::ReadRegValue(const QString& name) const {
+    return values_.value(name).toString();
+}
+
+void EditorSettings::WriteRegValue(const QString& name, const QString& value) {
+    values_.setValue(name, value);
+}
+
+void EditorSettings::GetEditorSettings() {
+    DefaultFolder = number(ReadRegValue(QStringLiteral("Default Folder")));
+    WrongFolder = number(ReadRegValue(QStringLiteral("Wrong Folder")));
+    TipsAtStart = ReadRegValue(QStringLiteral("TOTD"));
+    LastTip = number(ReadRegValue(QStringLiteral("LastTip")));
+    for (std::size_t i = 0; i < RecentProj.size(); ++i) {
+        RecentProj[i] = ReadRegValue(numbered("RecentProj ", i));
+    }
+    for (std::size_t i = 0; i < RunProgram.size(); ++i) {
+        RunProgram[i] = ReadRegValue(numbered("Run-Menu/Program ", i));
+    }
+}
+
+void EditorSettings::SaveEditorSettings() {
+    WriteRegValue(QStringLiteral("Installed Version"), kEditorVersion);
+    WriteRegValue(QStringLiteral("Default Folder"), QString::number(DefaultFolder));
+    WriteRegValue(QStringLiteral("Wrong Folder"), QString::number(WrongFolder));
+    WriteRegValue(QStringLiteral("TOTD"), TipsAtStart);
+    WriteRegValue(QStringLiteral("LastTip"), QString::number(LastTip));
+    for (std::size_t i = 0; i < RecentProj.size(); ++i) {
+        WriteRegValue(numbered("RecentProj ", i), RecentProj[i]);
+    }
+    for (std::size_t i = 0; i < RunProgram.size(); ++i) {
+        WriteRegValue(numbered("Run-Menu/Program ", i), RunProgram[i]);
+    }
+    values_.sync();
+}
+
+void EditorSettings::setFirstRunDefaults() {
+    WrongFolder = 3;
+    TipsAtStart = QStringLiteral("Yes");
+    LastTip = 0;
+    DefaultFolder = 1;
+    RecentProj.fill(QString());
+    RunProgram.fill(kUndefinedProgram);
+}
+
+void EditorSettings::rememberProject(const QString& path) {
+    const auto same = std::find_if(RecentProj.begin(), RecentProj.end(), [&](const QString& one) {
+        return store::sameName(one.toStdString(), path.toStdString());
+    });
+    const auto last = same == RecentProj.end() ? std::prev(RecentProj.end()) : same;
+    std::move_backward(RecentProj.begin(), last, std::next(last));
+    RecentProj.front() = path;
+}
+
+bool EditorSettings::hasRecent(int number) const {
+    const QString& path = RecentProj.at(static_cast<std::size_t>(number - 1));
+    return !path.trimmed().isEmpty() && path != QStringLiteral("(None)");
+}
+
+bool EditorSettings::hasProgram(int number) const {
+    const QString& program = RunProgram.at(static_cast<std::size_t>(number - 1));
+    return !program.trimmed().isEmpty() && program != kUndefinedProgram;
+}
+
+}  // namespace quorvel::shell

@@ -1,0 +1,58 @@
+/// What the editor remembers between runs.
+#pragma once
+
+#include <array>
+
+#include <QSettings>
+#include <QString>
+
+namespace quorvel::shell {
+
+/// The version of this editor, as it is shown and remembered.
+inline const QString kEditorVersion = QStringLiteral("3.03.0001");
+
+/// A slot of the Run menu without a program.
+inline const QString kUndefinedProgram = QStringLiteral("Undefined");
+
+/// Named string values under organisation "TessaroonWorks", application "Quorvel": a registry key
+/// on Windows, an ini file elsewhere. Numbers are stored as decimal text.
+class EditorSettings {
+  public:
+    static constexpr std::size_t kRecent = 4;
+    static constexpr std::size_t kPrograms = 6;
+
+    EditorSettings();
+
+    int DefaultFolder = 0;  ///< 1 the project's resource folder, 2 Incoming; 0 before a first run
+    int WrongFolder = 0;    ///< 1 copy, 2 move, 3 ask; 0 before a first run
+    QString TipsAtStart;    ///< only "Yes" shows a tip at the start
+    int LastTip = 0;
+    std::array<QString, kRecent> RecentProj;    ///< full paths, newest first
+    std::array<QString, kPrograms> RunProgram;  ///< command lines
+
+    /// Reads all values; a missing one is empty or 0.
+    void GetEditorSettings();
+    /// Writes all values, the running version among them.
+    void SaveEditorSettings();
+
+    /// True before the editor ever ran: neither folder choice is set.
+    [[nodiscard]] bool isFirstRun() const { return DefaultFolder == 0 && WrongFolder == 0; }
+    void setFirstRunDefaults();
+
+    /// The value, or an empty text when there is none.
+    [[nodiscard]] QString ReadRegValue(const QString& name) const;
+    void WriteRegValue(const QString& name, const QString& value);
+
+    /// Puts a project to the head of the recent list; one that is on it moves up.
+    void rememberProject(const QString& path);
+
+    /// True when slot `number`, 1 to 4, of the recent list holds a project.
+    [[nodiscard]] bool hasRecent(int number) const;
+    /// True when slot `number`, 1 to 6, of the Run menu holds a program.
+    [[nodiscard]] bool hasProgram(int number) const;
+
+  private:
+    QSettings values_;
+};
+
+}  // namespace quorvel::shell

@@ -1,0 +1,46 @@
+#include "shell/main_lists.h"
+
+#include <QComboBox>
+
+namespace quorvel::shell {
+
+MainLists::MainLists(forms::ProjectListModels& models, QWidget* owner) : QObject(owner) {
+    Combo1 = add("Combo1", models.scenes, "(Cancel)");
+    LocList = add("LocList", models.locations, "(Cancel)");
+    LocPointers = add("LocPointers", models.locations, "(Dummy)", forms::SceneRole);
+    MapList = add("MapList", models.locations, "(None)");
+    InvList = add("InvList", models.items, "(None)");
+    CueList = add("CueList", models.cards, "(None)");
+
+    heads_.front().model->setFirstEntry(QStringLiteral("Choose Scene..."));
+    Combo1->setCurrentIndex(0);
+}
+
+QComboBox* MainLists::add(const char* name, forms::RecordListModel& source, const char* firstEntry,
+                          int textRole) {
+    auto* owner = qobject_cast<QWidget*>(parent());
+    auto* combo = new QComboBox(owner);
+    combo->setObjectName(QString::fromLatin1(name));
+    // Measuring every entry of a long list would take longer than opening it.
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->hide();
+    auto* model = new forms::HeadedListModel(&source, QString(), combo, textRole);
+    combo->setModel(model);
+    heads_.push_back({combo, model, QString::fromLatin1(firstEntry)});
+    return combo;
+}
+
+void MainLists::showProject() {
+    for (const Head& head : heads_) {
+        head.model->setFirstEntry(head.firstEntry);
+        head.combo->setCurrentIndex(0);
+    }
+}
+
+void MainLists::clear() {
+    for (const Head& head : heads_) {
+        head.model->setFirstEntry(QString());
+    }
+}
+
+}  // namespace quorvel::shell

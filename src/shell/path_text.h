@@ -1,0 +1,22 @@
+/// Paths as texts.
+#pragma once
+
+#include <QString>
+
+namespace quorvel::shell {
+
+/// A path for a menu, of at most 50 characters: a longer one keeps its first 24 and its last 23
+/// around "...".
+QString ShrinkPath(const QString& path);
+
+/// The full form of an existing path, without links and detours; empty when there is none.
+QString GetLongFileName(const QString& path);
+
+/// A path split at its last separator, "/" or "\".
+struct SplitPath {
+    QString folder;  ///< with its separator; empty when the path has none
+    QString name;
+};
+SplitPath splitPath(const QString& path);
+
+}  // namespace quorvel::shell

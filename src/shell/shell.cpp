@@ -1,0 +1,263 @@
+#include "shell/shell.h"
+
+#include <QPushButton>
+#include <algorithm>
+#include <utility>
+
+#include "forms/events.h"
+#include "shell/install_path.h"
+#include "shell/open_project.h"
+#include "shell/path_text.h"
+#include "store/paths.h"
+#include "store/security.h"
+
+namespace quorvel::shell {
+
+using forms::Answer;
+using forms::Box;
+
+Shell::Shell(Surroundings surroundings)
+    : surroundings_(std::move(surroundings)),
+      traps_(surroundings_.boxes, project_),
+      models_(project_.lists) {}
+
+Shell::~Shell() = default;
+
+bool Shell::CheckRes() {
+    const QSize screen = surroundings_.screenSize();
+    if (screen.width() >= 800 && screen.height() >= 600) {
+        return true;
+    }
+    const QString text =
+        QStringLiteral(
+            "This application requires a MINIMUM screen resolution of 800x600.\n\nYour current "
+            "screen resolution is %1x %2.\n\nClick 'OK' to change your screen resolution and "
+            "continue running this application (your current screen resolution will be restored "
+            "when this application finishes).  Click 'Cancel' to exit the application without "
+            "making any changes.")
+            .arg(QString::number(screen.width()), QString::number(screen.height()));
+    return surroundings_.boxes.show({.text = text,
+                                     .title = QStringLiteral("Incorrect Screen Resolution"),
+                                     .icon = Box::Icon::exclamation,
+                                     .buttons = Box::Buttons::okCancel}) == Answer::ok;
+}
+
+std::vector<std::function<void()>> Shell::loadForms() {
+    return {[this] { loadMain(); }};
+}
+
+void Shell::loadMain() {
+    main_ = std::make_unique<Main>(project_, scene_, pictures_, models_);
+    keeper_ = std::make_unique<canvas::SceneKeeper>(project_, scene_, main_->view(), traps_);
+    loader_ = std::make_unique<ProjectLoader>(
+        ProjectLoader::House{project_, surroundings_.boxes, traps_, models_, *keeper_, *main_});
+    connect(main_.get(), &Main::commandChosen, this, &Shell::runCommand);
+    connect(main_.get(), &Main::closeAsked, this, &Shell::ExitProgram);
+    connect(&main_->view(), &canvas::SceneView::objectCountChanged, this, [this](int count) {
+        objectCount_ = count;
+        refreshCommands();
+    });
+    answerCommands();
+    refreshCommands();
+}
+
+void Shell::InitializeEditor() {
+    settings_.GetEditorSettings();
+    InstallPath = ResolveInstallPath(surroundings_.programFolder, surroundings_.userFolder);
+    forms::letEventsRun();
+    HelpFile = InstallPath + QStringLiteral("help/index.html");
+    if (settings_.isFirstRun()) {
+        settings_.setFirstRunDefaults();
+        settings_.SaveEditorSettings();
+    }
+    main_->showRecentProjects(settings_);
+    refreshCommands();
+    EditorRunning = true;
+    main_->showFor(surroundings_.screenSize());
+    openCommandLine();
+}
+
+void Shell::openCommandLine() {
+    for (const QString& argument : surroundings_.arguments) {
+        if (settings_.TipsAtStart == QStringLiteral("Yes")) {
+            settings_.TipsAtStart = QStringLiteral("YesNow");
+        }
+        openProject(argument);
+    }
+}
+
+void Shell::ChooseProject() {
+    const QString recent = settings_.hasRecent(1) ? settings_.RecentProj.front() : QString();
+    const QString path =
+        surroundings_.dialogs.openFile({.title = QStringLiteral("Choose a project to open"),
+                                        .filter = QStringLiteral("Quorvel Projects (*.qvl)|*.qvl|"),
+                                        .folder = splitPath(recent).folder,
+                                        .fileName = QString()});
+    if (!path.isEmpty()) {
+        openProject(path);
+    }
+}
+
+void Shell::openRecent(int number) {
+    const QString path = settings_.RecentProj.at(static_cast<std::size_t>(number - 1));
+    const SplitPath split = splitPath(path);
+    std::error_code error;
+    const auto file =
+        store::resolvePath(store::pathOf(split.folder.toStdString()), split.name.toStdString());
+    if (!std::filesystem::is_regular_file(file, error)) {
+        surroundings_.boxes.show(
+            {.text = QStringLiteral("Could not locate:\n\n%1\n\nIf this is on a removable disk, "
+                                    "please\nmake sure the disk is inserted in the drive.")
+                         .arg(path),
+             .title = QStringLiteral("File not found"),
+             .icon = Box::Icon::exclamation});
+        return;
+    }
+    openProject(path);
+}
+
+bool Shell::openProject(const QString& path) {
+    if (project_.ProjectOpen && !CloseProject()) {
+        return false;
+    }
+    SplitPath split = splitPath(path);
+    if (split.folder.isEmpty()) {
+        split.folder = QStringLiteral("./");
+    }
+    const QString full = GetLongFileName(split.folder);
+    if (!full.isEmpty()) {
+        split.folder = full.endsWith(QLatin1Char('/')) ? full : full + QLatin1Char('/');
+    }
+    project_.ProjectFolder = split.folder.toStdString();
+    project_.ProjectFileName = split.name.toStdString();
+    showRequestedProject();
+    return project_.ProjectOpen;
+}
+
+void Shell::showRequestedProject() {
+    OpenProj window(
+        project_,
+        {.load = [this](LoadProgress& progress) { return loader_->GetProjData(progress); },
+         .afterLoad = [this] { afterLoad(); }},
+        main_.get());
+    main_->showProjectFolder(QString::fromStdString(project_.ProjectFolder));
+    window.exec();
+    if (!project_.ProjectOpen) {
+        closeShellHalf();
+        ResetShell();
+        return;
+    }
+    if (settings_.TipsAtStart == QStringLiteral("YesNow")) {
+        settings_.TipsAtStart = QStringLiteral("Yes");
+    }
+    project_.OldSettings = false;
+}
+
+void Shell::afterLoad() {
+    activate();
+    settings_.rememberProject(QString::fromStdString(project_.ProjectFolder) +
+                              QString::fromStdString(project_.ProjectFileName));
+    settings_.SaveEditorSettings();
+    main_->showRecentProjects(settings_);
+    refreshCommands();
+    if (project_.OldSettings) {
+        tellOldSettings();
+    }
+}
+
+void Shell::tellOldSettings() {
+    const QString common = QStringLiteral(
+        "Quorvel has detected that this project was originally created with a previous version.  "
+        "Until this project is updated, you will not be able to take advantage of some new "
+        "features that are available.  ");
+    const QString rest =
+        project_.ReadOnlyProject
+            ? QStringLiteral(
+                  "Because the project files are 'Read Only' however, it is impossible to update "
+                  "the project at this time.  If this project is located on a CD-ROM or other "
+                  "non-writable media, please copy it to your hard drive so that the project can "
+                  "be updated.")
+            : QStringLiteral(
+                  "To automatically update this project, click on the 'Project|Customize Player' "
+                  "menu at your earliest convenience.  You will be guided through the simple, "
+                  "one-time update process!");
+    surroundings_.boxes.show(
+        {.text = common + rest,
+         .title = QStringLiteral("Old Settings Detected"),
+         .icon = project_.ReadOnlyProject ? Box::Icon::exclamation : Box::Icon::information});
+}
+
+bool Shell::CloseProject() {
+    if (keeper_->SaveScene() == canvas::SaveOutcome::failed &&
+        surroundings_.boxes.show(
+            {.text = QStringLiteral("The current scene could not be saved.\n\nDo you want to close "
+                                    "the project anyway and lose the changes to this scene?"),
+             .icon = Box::Icon::exclamation,
+             .buttons = Box::Buttons::yesNo}) != Answer::yes) {
+        return false;
+    }
+    project_.ViewBorders = main_->view().bordersOn() ? 1 : 0;
+    project_.ViewAnimations = main_->view().animationsOn() ? 1 : 0;
+    traps_.writing([this] { store::WriteSecurity(project_); });
+    traps_.writing([this] { project_.SaveProjectFile(); });
+    traps_.writing([this] { project_.closeFiles(); });
+    closeShellHalf();
+    ResetShell();
+    return true;
+}
+
+void Shell::closeShellHalf() {
+    main_->side().ObjAlert->hide();
+    main_->side().ScnAlert->hide();
+    main_->side().RestoreObjs->setEnabled(false);
+    main_->showProgramTitle();
+    main_->side().showSceneNumber(0);
+    main_->status().setCount(QStringLiteral("Objects:"));
+    main_->view().ResetCanvas();
+    project_.clear();
+    scene_ = store::Scene{};
+    models_.refresh();
+    main_->lists().clear();
+    main_->showProjectFolder(QString());
+    main_->ToggleAnimations(false);
+    main_->ToggleBorders(false);
+    main_->raise();
+}
+
+void Shell::ResetShell() {
+    objectCount_ = 0;
+    main_->status().show(canvas::emptyStatus());
+    main_->side().disableNavigation();
+    refreshCommands();
+}
+
+void Shell::ExitProgram() {
+    if (shuttingDown_) {
+        return;
+    }
+    shuttingDown_ = true;
+    if (main_) {
+        if (project_.ProjectOpen && !CloseProject()) {
+            shuttingDown_ = false;
+            return;
+        }
+        main_->showShutdown();
+        forms::letEventsRun();
+        EditorRunning = false;
+        main_->hide();
+    }
+    surroundings_.quit();
+}
+
+void Shell::activate() {
+    if (!main_ || !main_->isVisible()) {
+        return;
+    }
+    if (main_->isMinimized()) {
+        main_->showNormal();
+    }
+    main_->raise();
+    main_->activateWindow();
+}
+
+}  // namespace quorvel::shell

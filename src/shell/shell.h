@@ -1,0 +1,102 @@
+/// The shell: owns the project, the scene, the settings and the windows, and ties them together.
+///
+/// States: starting (splash), no project, project open, shutting down. A project that opens moves
+/// it from the second to the third, `closeProject` back, `ExitProgram` from either to the last.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+
+#include <QObject>
+
+#include "canvas/scene_keeper.h"
+#include "forms/pictures.h"
+#include "forms/record_lists.h"
+#include "forms/traps.h"
+#include "shell/commands.h"
+#include "shell/editor_settings.h"
+#include "shell/main_window.h"
+#include "shell/project_loader.h"
+#include "shell/surroundings.h"
+#include "store/project.h"
+#include "store/scene.h"
+
+namespace quorvel::shell {
+
+class Shell : public QObject {
+    Q_OBJECT
+  public:
+    explicit Shell(Surroundings surroundings);
+    ~Shell() override;
+
+    /// False when the screen is too small and the author chose not to go on.
+    bool CheckRes();
+
+    /// Loads the heavy windows; the steps of the splash's bar.
+    std::vector<std::function<void()>> loadForms();
+
+    /// Reads the settings, shows the main window and opens the projects of the command line. Runs
+    /// once, after the forms were loaded.
+    void InitializeEditor();
+
+    /// Lets the author choose a project and opens it.
+    void ChooseProject();
+
+    /// Opens the project file at `path`, after closing the one that is open. True when it is open.
+    bool openProject(const QString& path);
+
+    /// Saves and closes the project that is open. False when the author kept it open because its
+    /// scene could not be saved.
+    bool CloseProject();
+
+    /// Ends the process in order.
+    void ExitProgram();
+
+    /// Brings the main window to the front.
+    void activate();
+
+    void ToggleAnimations(bool on);
+    void ToggleBorders(bool on);
+
+    // What is owned here, for those who are handed the shell.
+    [[nodiscard]] store::Project& project() { return project_; }
+    [[nodiscard]] store::Scene& scene() { return scene_; }
+    [[nodiscard]] EditorSettings& settings() { return settings_; }
+    [[nodiscard]] Main& mainWindow() { return *main_; }
+
+    QString InstallPath;         ///< with a separator at its end
+    QString HelpFile;            ///< the first page of the help
+    bool EditorRunning = false;  ///< from the end of the start to the shutdown
+
+  private:
+    void loadMain();
+    void answerCommands();
+    void runCommand(Command command);
+    void refreshCommands();
+    void openCommandLine();
+    void openRecent(int number);
+    void showRequestedProject();
+    void afterLoad();
+    void tellOldSettings();
+    void ResetShell();
+    void closeShellHalf();
+    void RunTool(int number);
+    void showSecurity();
+
+    Surroundings surroundings_;
+    EditorSettings settings_;
+    store::Project project_;
+    store::Scene scene_;
+    forms::PictureStore pictures_;
+    forms::Traps traps_;
+    forms::ProjectListModels models_;
+    std::unique_ptr<Main> main_;
+    std::unique_ptr<canvas::SceneKeeper> keeper_;
+    std::unique_ptr<ProjectLoader> loader_;
+    std::map<Command, std::function<void()>> answers_;
+    int objectCount_ = 0;
+    bool shuttingDown_ = false;
+};
+
+}  // namespace quorvel::shell

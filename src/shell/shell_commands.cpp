@@ -1,0 +1,69 @@
+// What the commands of the main window run.
+#include "game/security_editor.h"
+#include "shell/shell.h"
+
+namespace quorvel::shell {
+
+using forms::Box;
+
+void Shell::answerCommands() {
+    answers_ = {
+        {Command::openProject, [this] { ChooseProject(); }},
+        {Command::closeProject, [this] { CloseProject(); }},
+        {Command::exitProgram, [this] { ExitProgram(); }},
+        {Command::projectSecurity, [this] { showSecurity(); }},
+        {Command::toggleAnimations, [this] { ToggleAnimations(!main_->view().animationsOn()); }},
+        {Command::toggleBorders, [this] { ToggleBorders(!main_->view().bordersOn()); }},
+    };
+    for (const Command command : {Command::recentProject1, Command::recentProject2,
+                                  Command::recentProject3, Command::recentProject4}) {
+        answers_[command] = [this, command] { openRecent(recentNumber(command)); };
+    }
+    for (const Command command : {Command::runTool1, Command::runTool2, Command::runTool3,
+                                  Command::runTool4, Command::runTool5, Command::runTool6}) {
+        answers_[command] = [this, command] { RunTool(toolNumber(command)); };
+    }
+}
+
+void Shell::runCommand(Command command) {
+    if (const auto answer = answers_.find(command); answer != answers_.end()) {
+        answer->second();
+    }
+}
+
+void Shell::refreshCommands() {
+    CommandState state;
+    state.projectOpen = project_.ProjectOpen && !project_.ProjectLoading;
+    state.roomForObject = objectCount_ < store::kSlotCount;
+    for (const auto& [command, answer] : answers_) {
+        state.available.insert(command);
+    }
+    main_->applyCommandState(state, settings_);
+}
+
+void Shell::ToggleAnimations(bool on) {
+    main_->ToggleAnimations(on);
+}
+
+void Shell::ToggleBorders(bool on) {
+    main_->ToggleBorders(on);
+}
+
+void Shell::showSecurity() {
+    game::ProjSecurity window(project_, surroundings_.boxes, surroundings_.random, nullptr,
+                              main_.get());
+    window.exec();
+}
+
+void Shell::RunTool(int number) {
+    const QString program = settings_.RunProgram.at(static_cast<std::size_t>(number - 1));
+    if (!surroundings_.programs.start(program)) {
+        surroundings_.boxes.show(
+            {.text = QStringLiteral("Could not open \"%1\"\nPlease check the path and try again.")
+                         .arg(program),
+             .title = QStringLiteral("Error Opening File"),
+             .icon = Box::Icon::critical});
+    }
+}
+
+}  // namespace quorvel::shell

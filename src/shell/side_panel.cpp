@@ -1,0 +1,105 @@
+#include "shell/side_panel.h"
+
+#include <QLabel>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include "forms/look.h"
+#include "forms/wrap_button.h"
+
+namespace quorvel::shell {
+namespace {
+
+constexpr int kWidth = 92;
+
+QPushButton* wrapButton(QWidget* parent, const char* name, const char* caption,
+                        const char* toolTip) {
+    auto* button = new forms::WrapButton(QString::fromLatin1(caption), parent);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setToolTip(QString::fromLatin1(toolTip));
+    button->setEnabled(false);
+    return button;
+}
+
+QPushButton* arrowButton(QWidget* parent, const char* name, const char* caption,
+                         const char* toolTip) {
+    auto* button = new QPushButton(QString::fromLatin1(caption), parent);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setToolTip(QString::fromLatin1(toolTip));
+    button->setAccessibleName(QString::fromLatin1(toolTip));
+    button->setEnabled(false);
+    // The style's minimum width would not let two of them stand side by side.
+    button->setMinimumWidth(16);
+    button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return button;
+}
+
+QPushButton* alertButton(QWidget* parent, const char* name, const char* caption) {
+    QPushButton* button = wrapButton(parent, name, caption, "Click for details...");
+    button->setIcon(parent->style()->standardIcon(QStyle::SP_MessageBoxWarning));
+    button->setIconSize({20, 20});
+    button->setEnabled(true);
+    button->hide();
+    return button;
+}
+
+}  // namespace
+
+SidePanel::SidePanel(QWidget* parent) : QFrame(parent) {
+    setObjectName(QStringLiteral("Picture1"));
+    setFixedWidth(kWidth);
+
+    auto* caption = new QLabel(QStringLiteral("Scene #"), this);
+    caption->setObjectName(QStringLiteral("Label1"));
+    caption->setAlignment(Qt::AlignHCenter);
+    CurScene = new QLabel(this);
+    CurScene->setObjectName(QStringLiteral("CurScene"));
+    CurScene->setAlignment(Qt::AlignCenter);
+    CurScene->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    QFont large = CurScene->font();
+    large.setBold(true);
+    large.setPointSizeF(large.pointSizeF() * 1.4);
+    CurScene->setFont(large);
+
+    Command5 = arrowButton(this, "Command5", "<", "Previous Scene");
+    Command6 = arrowButton(this, "Command6", ">", "Next Scene");
+    Command8 = wrapButton(this, "Command8", "Jump To Scene >", "Drop-Down Scenes List");
+    Command7 = wrapButton(this, "Command7", "Jump To Location >", "Drop-Down Locations List");
+    RestoreObjs = wrapButton(this, "RestoreObjs", "Restore Object Positions",
+                             "Restore objects to their positions when scene was loaded");
+    ObjAlert = alertButton(this, "ObjAlert", "Object Position");
+    ScnAlert = alertButton(this, "ScnAlert", "Scene Size");
+
+    auto* arrows = new QHBoxLayout;
+    arrows->setSpacing(4);
+    arrows->addWidget(Command5);
+    arrows->addWidget(Command6);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(4, 6, 4, 4);
+    column->setSpacing(6);
+    column->addWidget(caption);
+    column->addWidget(CurScene);
+    column->addLayout(arrows);
+    column->addSpacing(6);
+    column->addWidget(Command8);
+    column->addWidget(Command7);
+    column->addSpacing(6);
+    column->addWidget(RestoreObjs);
+    column->addStretch();
+    column->addWidget(ObjAlert);
+    column->addWidget(ScnAlert);
+    showSceneNumber(0);
+}
+
+void SidePanel::showSceneNumber(int number) {
+    CurScene->setText(number == 0 ? QStringLiteral("---") : QString::number(number));
+}
+
+void SidePanel::disableNavigation() {
+    for (QPushButton* button : {Command5, Command6, Command7, Command8}) {
+        button->setEnabled(false);
+    }
+}
+
+}  // namespace quorvel::shell

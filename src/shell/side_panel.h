@@ -1,0 +1,32 @@
+/// The column beside the canvas: scene number, navigation, alerts.
+#pragma once
+
+#include <QFrame>
+
+class QLabel;
+class QPushButton;
+
+namespace quorvel::shell {
+
+class SidePanel : public QFrame {
+    Q_OBJECT
+  public:
+    explicit SidePanel(QWidget* parent);
+
+    // The controls, which live as long as the panel.
+    QLabel* CurScene = nullptr;       ///< number of the scene on the canvas, or "---"
+    QPushButton* Command5 = nullptr;  ///< previous scene
+    QPushButton* Command6 = nullptr;  ///< next scene
+    QPushButton* Command7 = nullptr;  ///< jump to a location
+    QPushButton* Command8 = nullptr;  ///< jump to a scene
+    QPushButton* RestoreObjs = nullptr;
+    QPushButton* ObjAlert = nullptr;
+    QPushButton* ScnAlert = nullptr;
+
+    /// Shows the number of the current scene, "---" for 0.
+    void showSceneNumber(int number);
+    /// The navigation as it stands without a project.
+    void disableNavigation();
+};
+
+}  // namespace quorvel::shell

@@ -1,0 +1,55 @@
+#include "shell/start.h"
+
+#include <QApplication>
+#include <QRandomGenerator>
+#include <QScreen>
+#include <QStandardPaths>
+
+#include "forms/look.h"
+
+namespace quorvel::shell {
+
+StartForm::StartForm(Shell& shell, SingleInstance& instance) : shell_(shell), instance_(instance) {}
+
+bool StartForm::begin() {
+    if (!instance_.claim() || !shell_.CheckRes()) {
+        return false;
+    }
+    connect(&instance_, &SingleInstance::activationAsked, &shell_, &Shell::activate);
+    splash_ = std::make_unique<InitQV>(
+        InitQV::Work{shell_.loadForms(), [this] { shell_.InitializeEditor(); }});
+    connect(splash_.get(), &InitQV::finished, this, [this] { splash_.release()->deleteLater(); });
+    splash_->show();
+    return true;
+}
+
+int runEditor(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quorvel"));
+    QApplication::setOrganizationName(QStringLiteral("TessaroonWorks"));
+    QApplication::setApplicationVersion(kEditorVersion);
+    // The shell ends the loop itself: the splash must not, when it is the last window that closes.
+    QApplication::setQuitOnLastWindowClosed(false);
+    forms::applyLook(application, forms::lookFromEnvironment());
+
+    forms::MessageBoxes boxes;
+    forms::SystemFileDialogs dialogs;
+    resources::SystemPrograms programs;
+    Shell shell({.boxes = boxes,
+                 .dialogs = dialogs,
+                 .programs = programs,
+                 .screenSize = [] { return QGuiApplication::primaryScreen()->size(); },
+                 .random = [] { return QRandomGenerator::global()->generateDouble(); },
+                 .quit = [] { QCoreApplication::quit(); },
+                 .programFolder = QCoreApplication::applicationDirPath(),
+                 .userFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
+                 .arguments = QCoreApplication::arguments().mid(1)});
+    SingleInstance instance(SingleInstance::nameForUser());
+    StartForm start(shell, instance);
+    if (!start.begin()) {
+        return 0;
+    }
+    return QApplication::exec();
+}
+
+}  // namespace quorvel::shell

@@ -1,0 +1,82 @@
+#include "shell/status_lines.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+#include "forms/form.h"
+
+namespace quorvel::shell {
+namespace {
+
+/// The widest ordinary text of each panel, which gives the panel its width.
+constexpr std::array<const char*, StatusLines::kPanels> kWidest = {
+    "", "Index: 20", "Pos: x= -8888 , y= -8888", "Size: 8888h X 8888w"};
+
+QLabel* addPanel(QFrame* bar, const QString& name, const QString& widest) {
+    auto* panel = new QLabel(bar);
+    panel->setObjectName(name);
+    panel->setTextFormat(Qt::PlainText);
+    panel->setContentsMargins(6, 1, 6, 1);
+    if (widest.isEmpty()) {
+        panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    } else {
+        panel->setMinimumWidth(panel->fontMetrics().horizontalAdvance(widest) + 12);
+    }
+    return panel;
+}
+
+QFrame* separator(QWidget* parent) {
+    auto* line = new QFrame(parent);
+    line->setFrameStyle(QFrame::VLine | QFrame::Sunken);
+    return line;
+}
+
+}  // namespace
+
+StatusLines::StatusLines(QWidget* parent) : QWidget(parent) {
+    auto* first = new QFrame(this);
+    first->setObjectName(QStringLiteral("StatusBar1"));
+    auto* firstRow = new QHBoxLayout(first);
+    firstRow->setContentsMargins(0, 0, 0, 0);
+    firstRow->setSpacing(0);
+    for (int i = 0; i < kPanels; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        panels_[at] = addPanel(first, forms::elementName(QStringLiteral("StatusBar1"), i + 1),
+                               QString::fromLatin1(kWidest[at]));
+        firstRow->addWidget(panels_[at], i == 0 ? 1 : 0);
+        firstRow->addWidget(separator(first));
+    }
+
+    auto* second = new QFrame(this);
+    second->setObjectName(QStringLiteral("StatusBar2"));
+    auto* secondRow = new QHBoxLayout(second);
+    secondRow->setContentsMargins(0, 0, 0, 0);
+    count_ = addPanel(second, forms::elementName(QStringLiteral("StatusBar2"), 1),
+                      QStringLiteral("Objects: 20 / 20"));
+    secondRow->addWidget(count_);
+
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 1, 0, 1);
+    row->setSpacing(0);
+    row->addWidget(first, 1);
+    row->addWidget(second);
+    show(canvas::emptyStatus());
+    setCount(QStringLiteral("Objects:"));
+}
+
+void StatusLines::show(const canvas::StatusText& text) {
+    const std::array texts = {text.object, text.index, text.position, text.size};
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        panels_[i]->setText(texts[i]);
+    }
+}
+
+void StatusLines::setCount(const QString& text) {
+    count_->setText(text);
+}
+
+void StatusLines::showCount(int objects) {
+    setCount(QStringLiteral("Objects: %1 / 20").arg(objects));
+}
+
+}  // namespace quorvel::shell

@@ -1,0 +1,34 @@
+/// The two status lines below the canvas.
+#pragma once
+
+#include <array>
+
+#include <QFrame>
+
+#include "canvas/texts.h"
+
+class QLabel;
+
+namespace quorvel::shell {
+
+/// `StatusBar1` with four panels about what is under the pointer, `StatusBar2` with the object
+/// count.
+class StatusLines : public QWidget {
+    Q_OBJECT
+  public:
+    static constexpr int kPanels = 4;
+
+    explicit StatusLines(QWidget* parent);
+
+    /// The four panels of `StatusBar1`.
+    void show(const canvas::StatusText& text);
+    /// The panel of `StatusBar2`: as it stands, or with the number of objects in the scene.
+    void setCount(const QString& text);
+    void showCount(int objects);
+
+  private:
+    std::array<QLabel*, kPanels> panels_{};
+    QLabel* count_ = nullptr;
+};
+
+}  // namespace quorvel::shell

@@ -1,0 +1,56 @@
+// Opening a project and closing it again, through the real windows.
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLabel>
+
+#include "forms/form.h"
+#include "support/windows/shell_fixture.h"
+
+namespace quorvel::test {
+namespace {
+
+class OpenProject : public ShellFixture {};
+
+TEST_F(OpenProject, ShowsTheSceneThatWasShownLast) {
+    const TestProject files = ProjectBuilder()
+                                  .title("Castle")
+                                  .scenes(3)
+                                  .currentScene(2)
+                                  .object(2, 1, 5, 100, 120)
+                                  .build(projects.path());
+    start({text(files.projectPath())});
+
+    EXPECT_TRUE(shell->project().ProjectOpen);
+    EXPECT_EQ(main().windowTitle(), QStringLiteral("Quorvel - Castle"));
+    EXPECT_EQ(control<QLabel>(main(), QStringLiteral("CurScene")).text(), QStringLiteral("2"));
+    EXPECT_EQ(control<QLabel>(main(), QStringLiteral("StatusBar2(1)")).text(),
+              QStringLiteral("Objects: 1 / 20"));
+    const auto& scenes = control<QComboBox>(main(), QStringLiteral("Combo1"));
+    EXPECT_EQ(scenes.itemText(0), QStringLiteral("(Cancel)"));
+    EXPECT_EQ(scenes.itemText(3), QStringLiteral("3 (Scene 3)"));
+    EXPECT_TRUE(control<QWidget>(main(), QStringLiteral("Animation(1)")).isVisible());
+    EXPECT_TRUE(action(QStringLiteral("Filemen(3)")).isEnabled());
+    EXPECT_TRUE(boxes.shown().empty());
+}
+
+TEST_F(OpenProject, AndClosingLeavesTheFilesAsTheyWere) {
+    const TestProject files = ProjectBuilder()
+                                  .scenes(3)
+                                  .items(2)
+                                  .locations(2)
+                                  .cards(1)
+                                  .currentItem(1)
+                                  .currentCueCard(1)
+                                  .build(projects.path());
+    const FolderSnapshot before = snapshotOf(projects.path());
+    start({text(files.projectPath())});
+    action(QStringLiteral("Filemen(3)")).trigger();
+
+    EXPECT_FALSE(shell->project().ProjectOpen);
+    EXPECT_EQ(main().windowTitle(), QStringLiteral("Quorvel"));
+    EXPECT_EQ(differences(before, snapshotOf(projects.path())), "");
+}
+
+}  // namespace
+}  // namespace quorvel::test

@@ -1,0 +1,44 @@
+/// A whole editor for a test: real windows, real settings in a folder of its own, a played author.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <optional>
+
+#include <QAction>
+
+#include "shell/shell.h"
+#include "support/file_bytes.h"
+#include "support/project_builder.h"
+#include "support/temp_folder.h"
+#include "support/windows/played_author.h"
+
+namespace quorvel::test {
+
+class ShellFixture : public ::testing::Test {
+  protected:
+    ShellFixture();
+
+    /// Starts the editor as after the splash, on a screen of `screen` pixels, with the projects of
+    /// the command line.
+    void start(const QStringList& arguments = {}, QSize screen = {1280, 800});
+
+    /// Ends the editor of this test and forgets it; `start` begins another with the same settings.
+    void leave();
+
+    [[nodiscard]] shell::Main& main() { return shell->mainWindow(); }
+    [[nodiscard]] QAction& action(const QString& name) { return control<QAction>(main(), name); }
+
+    static QString text(const std::filesystem::path& path);
+
+    TempFolder home;      ///< settings and user data of the played author
+    TempFolder projects;  ///< for the projects of the test
+    PlayedBoxes boxes;
+    PlayedDialogs dialogs;
+    PlayedPrograms programs;
+    double nextRandom = 0.5;
+    int quits = 0;
+    std::unique_ptr<shell::Shell> shell;
+};
+
+}  // namespace quorvel::test

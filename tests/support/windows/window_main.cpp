@@ -1,0 +1,18 @@
+// The main routine of every test program that shows windows.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "forms/look.h"
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    // Tests need no screen; one that is set on purpose is used.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    quorvel::forms::applyLook(application, quorvel::forms::lookFromEnvironment());
+    return RUN_ALL_TESTS();
+}
