@@ -1,6 +1,7 @@
 #include "shell/shell.h"
 
 #include <QPushButton>
+#include <QTimer>
 #include <algorithm>
 #include <utility>
 
@@ -233,6 +234,11 @@ void Shell::ResetShell() {
 
 void Shell::ExitProgram() {
     if (shuttingDown_) {
+        return;
+    }
+    if (project_.ProjectLoading) {
+        // The system may ask in the middle of an open, which cannot be cut off.
+        QTimer::singleShot(100, this, &Shell::ExitProgram);
         return;
     }
     shuttingDown_ = true;

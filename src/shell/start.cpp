@@ -6,6 +6,7 @@
 #include <QStandardPaths>
 
 #include "forms/look.h"
+#include "shell/termination_signals.h"
 
 namespace quorvel::shell {
 
@@ -49,6 +50,7 @@ int runEditor(int argc, char** argv) {
     if (!start.begin()) {
         return 0;
     }
+    const TerminationSignals signalsOfTheSystem([&shell] { shell.ExitProgram(); });
     return QApplication::exec();
 }
 
