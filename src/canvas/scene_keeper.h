@@ -1,7 +1,12 @@
-/// The scene between the canvas, the memory and the store.
+/// The scene between the canvas, the memory and the store: saving, loading, moving on, adding.
+///
+/// Data flow: whoever wants another scene calls `GoToScene` or `AddScene`; the window follows
+/// `sceneShown` and `sceneAdded`.
 #pragma once
 
 #include <cstdint>
+
+#include <QObject>
 
 #include "canvas/scene_view.h"
 #include "forms/traps.h"
@@ -12,11 +17,15 @@ namespace quorvel::canvas {
 /// How a save ended. The author has been told of a failure when it is one.
 enum class SaveOutcome : std::uint8_t { saved, readOnly, failed };
 
+/// What an added scene begins as.
+enum class NewScene : std::uint8_t { empty, closeup, exactCopy };
+
 /// Owned by the shell; all references must outlive it.
-class SceneKeeper {
+class SceneKeeper : public QObject {
+    Q_OBJECT
   public:
-    SceneKeeper(store::Project& project, store::Scene& scene, SceneView& view, forms::Traps& traps)
-        : project_(project), scene_(scene), view_(view), traps_(traps) {}
+    SceneKeeper(store::Project& project, store::Scene& scene, SceneView& view, forms::Boxes& boxes,
+                forms::Traps& traps);
 
     /// Writes the scene in memory to its record, the edge links as they stand on the canvas. A
     /// scene without a record of its own is not written and counts as saved.
@@ -30,10 +39,32 @@ class SceneKeeper {
     /// cannot be shown is told, and the objects appear all the same.
     void showScene();
 
+    /// Saves the current scene and shows scene `number`. The author stays where the current scene
+    /// could not be written, for another reason than that the project is read-only, and where the
+    /// other one could not be read; false then, and the author has been told.
+    bool GoToScene(int number);
+
+    /// Saves the current scene, appends a scene to the store and shows it. A closeup's lower edge
+    /// link leads back, in memory, to the scene that was current. False when nothing was added; the
+    /// author has been told.
+    bool AddScene(NewScene mode);
+
+  Q_SIGNALS:
+    /// Scene `number` is on the canvas.
+    void sceneShown(int number);
+    /// The list of scenes has got a last entry.
+    void sceneAdded();
+
   private:
+    /// Saves before leaving; false when the author has to stay.
+    bool leave();
+    bool arrive(int number);
+    bool writeNewScene(int number, NewScene mode);
+
     store::Project& project_;
     store::Scene& scene_;
     SceneView& view_;
+    forms::Boxes& boxes_;
     forms::Traps& traps_;
 };
 

@@ -33,11 +33,30 @@ void RecordListModel::refresh() {
     endResetModel();
 }
 
+void RecordListModel::append() {
+    beginInsertRows({}, rows_, rows_);
+    ++rows_;
+    endInsertRows();
+}
+
+void RecordListModel::renamed(int row) {
+    Q_EMIT dataChanged(index(row), index(row));
+}
+
 HeadedListModel::HeadedListModel(RecordListModel* source, const QString& firstEntry,
                                  QObject* parent, int textRole)
     : QAbstractListModel(parent), source_(source), firstEntry_(firstEntry), textRole_(textRole) {
     connect(source, &QAbstractItemModel::modelAboutToBeReset, this, [this] { beginResetModel(); });
     connect(source, &QAbstractItemModel::modelReset, this, [this] { endResetModel(); });
+    connect(source, &QAbstractItemModel::rowsAboutToBeInserted, this,
+            [this](const QModelIndex&, int first, int last) {
+                beginInsertRows({}, first + 1, last + 1);
+            });
+    connect(source, &QAbstractItemModel::rowsInserted, this, [this] { endInsertRows(); });
+    connect(source, &QAbstractItemModel::dataChanged, this,
+            [this](const QModelIndex& first, const QModelIndex& last) {
+                Q_EMIT dataChanged(index(first.row() + 1), index(last.row() + 1));
+            });
 }
 
 int HeadedListModel::rowCount(const QModelIndex& parent) const {

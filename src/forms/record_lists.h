@@ -30,6 +30,10 @@ class RecordListModel : public QAbstractListModel {
 
     /// The entries were filled anew.
     void refresh();
+    /// One entry was added at the end.
+    void append();
+    /// The name of the entry in `row` was changed.
+    void renamed(int row);
 
   private:
     const std::vector<store::ListEntry>& entries_;

@@ -1,6 +1,7 @@
 #include "shell/main_lists.h"
 
 #include <QComboBox>
+#include <QListView>
 
 namespace quorvel::shell {
 
@@ -23,6 +24,9 @@ QComboBox* MainLists::add(const char* name, forms::RecordListModel& source, cons
     combo->setObjectName(QString::fromLatin1(name));
     // Measuring every entry of a long list would take longer than opening it.
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    auto* view = new QListView(combo);
+    view->setUniformItemSizes(true);
+    combo->setView(view);
     combo->hide();
     auto* model = new forms::HeadedListModel(&source, QString(), combo, textRole);
     combo->setModel(model);

@@ -1,9 +1,10 @@
 #include "shell/shell.h"
 
-#include <QPushButton>
-#include <QTimer>
 #include <algorithm>
 #include <utility>
+
+#include <QPushButton>
+#include <QTimer>
 
 #include "forms/events.h"
 #include "shell/install_path.h"
@@ -49,7 +50,12 @@ std::vector<std::function<void()>> Shell::loadForms() {
 
 void Shell::loadMain() {
     main_ = std::make_unique<Main>(project_, scene_, pictures_, models_);
-    keeper_ = std::make_unique<canvas::SceneKeeper>(project_, scene_, main_->view(), traps_);
+    keeper_ = std::make_unique<canvas::SceneKeeper>(project_, scene_, main_->view(),
+                                                    surroundings_.boxes, traps_);
+    connect(keeper_.get(), &canvas::SceneKeeper::sceneAdded, &models_.scenes,
+            &forms::RecordListModel::append);
+    navigation_ = std::make_unique<Navigation>(
+        Navigation::House{project_, *keeper_, surroundings_.boxes, main_->side(), main_->lists()});
     loader_ = std::make_unique<ProjectLoader>(
         ProjectLoader::House{project_, surroundings_.boxes, traps_, models_, *keeper_, *main_});
     connect(main_.get(), &Main::commandChosen, this, &Shell::runCommand);

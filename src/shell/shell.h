@@ -17,6 +17,7 @@
 #include "shell/commands.h"
 #include "shell/editor_settings.h"
 #include "shell/main_window.h"
+#include "shell/navigation.h"
 #include "shell/project_loader.h"
 #include "shell/surroundings.h"
 #include "store/project.h"
@@ -83,6 +84,7 @@ class Shell : public QObject {
     void closeShellHalf();
     void RunTool(int number);
     void showSecurity();
+    void showAddScene();
 
     Surroundings surroundings_;
     EditorSettings settings_;
@@ -93,6 +95,7 @@ class Shell : public QObject {
     forms::ProjectListModels models_;
     std::unique_ptr<Main> main_;
     std::unique_ptr<canvas::SceneKeeper> keeper_;
+    std::unique_ptr<Navigation> navigation_;
     std::unique_ptr<ProjectLoader> loader_;
     std::map<Command, std::function<void()>> answers_;
     int objectCount_ = 0;

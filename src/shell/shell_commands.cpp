@@ -1,4 +1,5 @@
 // What the commands of the main window run.
+#include "canvas/new_scene_form.h"
 #include "game/security_editor.h"
 #include "shell/shell.h"
 
@@ -12,6 +13,7 @@ void Shell::answerCommands() {
         {Command::closeProject, [this] { CloseProject(); }},
         {Command::exitProgram, [this] { ExitProgram(); }},
         {Command::projectSecurity, [this] { showSecurity(); }},
+        {Command::addScene, [this] { showAddScene(); }},
         {Command::toggleAnimations, [this] { ToggleAnimations(!main_->view().animationsOn()); }},
         {Command::toggleBorders, [this] { ToggleBorders(!main_->view().bordersOn()); }},
     };
@@ -52,6 +54,11 @@ void Shell::ToggleBorders(bool on) {
 void Shell::showSecurity() {
     game::ProjSecurity window(project_, surroundings_.boxes, surroundings_.random, nullptr,
                               main_.get());
+    window.exec();
+}
+
+void Shell::showAddScene() {
+    canvas::NewScenefrm window(*keeper_, nullptr, main_.get());
     window.exec();
 }
 

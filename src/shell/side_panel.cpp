@@ -1,6 +1,7 @@
 #include "shell/side_panel.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -52,10 +53,13 @@ SidePanel::SidePanel(QWidget* parent) : QFrame(parent) {
     auto* caption = new QLabel(QStringLiteral("Scene #"), this);
     caption->setObjectName(QStringLiteral("Label1"));
     caption->setAlignment(Qt::AlignHCenter);
-    CurScene = new QLabel(this);
+    CurScene = new QLineEdit(this);
     CurScene->setObjectName(QStringLiteral("CurScene"));
     CurScene->setAlignment(Qt::AlignCenter);
-    CurScene->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    CurScene->setToolTip(QStringLiteral("Type the number of a scene to jump to it"));
+    CurScene->setAccessibleName(QStringLiteral("Scene #"));
+    CurScene->setReadOnly(true);
+    caption->setBuddy(CurScene);
     QFont large = CurScene->font();
     large.setBold(true);
     large.setPointSizeF(large.pointSizeF() * 1.4);
@@ -100,6 +104,7 @@ void SidePanel::disableNavigation() {
     for (QPushButton* button : {Command5, Command6, Command7, Command8}) {
         button->setEnabled(false);
     }
+    CurScene->setReadOnly(true);
 }
 
 }  // namespace quorvel::shell

@@ -3,7 +3,7 @@
 
 #include <QFrame>
 
-class QLabel;
+class QLineEdit;
 class QPushButton;
 
 namespace quorvel::shell {
@@ -14,7 +14,7 @@ class SidePanel : public QFrame {
     explicit SidePanel(QWidget* parent);
 
     // The controls, which live as long as the panel.
-    QLabel* CurScene = nullptr;       ///< number of the scene on the canvas, or "---"
+    QLineEdit* CurScene = nullptr;    ///< number of the scene on the canvas, or "---"
     QPushButton* Command5 = nullptr;  ///< previous scene
     QPushButton* Command6 = nullptr;  ///< next scene
     QPushButton* Command7 = nullptr;  ///< jump to a location

@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 
 #include "forms/form.h"
 #include "support/windows/shell_fixture.h"
@@ -23,7 +24,7 @@ TEST_F(OpenProject, ShowsTheSceneThatWasShownLast) {
 
     EXPECT_TRUE(shell->project().ProjectOpen);
     EXPECT_EQ(main().windowTitle(), QStringLiteral("Quorvel - Castle"));
-    EXPECT_EQ(control<QLabel>(main(), QStringLiteral("CurScene")).text(), QStringLiteral("2"));
+    EXPECT_EQ(control<QLineEdit>(main(), QStringLiteral("CurScene")).text(), QStringLiteral("2"));
     EXPECT_EQ(control<QLabel>(main(), QStringLiteral("StatusBar2(1)")).text(),
               QStringLiteral("Objects: 1 / 20"));
     const auto& scenes = control<QComboBox>(main(), QStringLiteral("Combo1"));
