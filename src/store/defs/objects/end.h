@@ -1,0 +1,2 @@
+#undef STR
+#undef INT

@@ -1,0 +1,167 @@
+/// The dictionary of objects: what each field of a slot means for each type.
+///
+/// Each type is described once, in its list under store/defs/objects. From the list come the names
+/// here (`HotSpot::Pointer` rather than a bare 4) and the table of `objectFields`, from which the
+/// values of a fresh object are taken.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "store/scene.h"
+
+namespace quorvel::store {
+
+/// The values of `SlotInt1`. Every other number is a type that a newer version made: it is counted
+/// and kept, and nothing of it is known.
+enum class ObjectType : std::int16_t {
+    free = -1,
+    ambient,
+    hotSpot,
+    goodie,
+    switchObject,
+    reactor,
+    responder,
+    delay,
+    multiTrigger,
+    conversation,
+    flagConjunction,
+};
+inline constexpr int kObjectTypes = 10;
+
+/// A number or a text of a slot.
+struct NumberField {
+    int number;  ///< k of `SlotInt`k
+};
+struct WordField {
+    int number;  ///< k of `SlotStr`k
+};
+
+// Fields that all types have.
+inline constexpr NumberField kType{1};
+inline constexpr NumberField kLeft{2};  ///< canvas pixels
+inline constexpr NumberField kTop{3};   ///< canvas pixels
+
+// clang-format off
+struct Ambient {
+#include "store/defs/objects/begin_names.h"
+#include "store/defs/objects/ambient.def"
+#include "store/defs/objects/end.h"
+};
+struct HotSpot {
+#include "store/defs/objects/begin_names.h"
+#include "store/defs/objects/hotspot.def"
+#include "store/defs/objects/end.h"
+    /// The lowest height and width of a QuickSpot, in pixels.
+    static constexpr int kLeastSide = 5;
+};
+struct Goodie {
+#include "store/defs/objects/begin_names.h"
+#include "store/defs/objects/goodie.def"
+#include "store/defs/objects/end.h"
+};
+struct Switch {
+#include "store/defs/objects/begin_names.h"
+#include "store/defs/objects/switch.def"
+#include "store/defs/objects/end.h"
+};
+struct Reactor {
+#include "store/defs/objects/begin_names.h"
+#include "store/defs/objects/reactor.def"
+#include "store/defs/objects/end.h"
+};
+struct Responder {
+#include "store/defs/objects/begin_names.h"
+#include "store/defs/objects/responder.def"
+#include "store/defs/objects/end.h"
+};
+struct Delay {
+#include "store/defs/objects/begin_names.h"
+#include "store/defs/objects/delay.def"
+#include "store/defs/objects/end.h"
+};
+struct MultiTrigger {
+#include "store/defs/objects/begin_names.h"
+#include "store/defs/objects/multi_trigger.def"
+#include "store/defs/objects/end.h"
+};
+struct Conversation {
+#include "store/defs/objects/begin_names.h"
+#include "store/defs/objects/conversation.def"
+#include "store/defs/objects/end.h"
+};
+struct FlagConjunction {
+#include "store/defs/objects/begin_names.h"
+#include "store/defs/objects/flag_conjunction.def"
+#include "store/defs/objects/end.h"
+};
+// clang-format on
+
+/// What a field holds, which settles the values it may have.
+enum class FieldUse : std::uint8_t {
+    gfxFile,      ///< file in resource/gfx
+    mediaFile,    ///< file in resource/mmedia
+    decimalText,  ///< a number as text
+    check,        ///< 0 or 1
+    option,       ///< index of an option, from 1
+    scene,        ///< number of a scene, 0 for none
+    item,
+    location,
+    card,
+    pointer,      ///< index into the mouse pointers
+    channel,      ///< 0 to 15
+    flag,         ///< 1 to 255
+    comparison,   ///< 0 =, 1 <>, 2 <, 3 >
+    value,        ///< any number
+    volume,       ///< -4000 to 0
+    pan,          ///< -4000 to 4000
+    movieVolume,  ///< 0 to 100
+    seconds,      ///< 0 to 65
+};
+
+/// One row of a type's list.
+struct ObjectFieldInfo {
+    std::string_view name;
+    bool isText;
+    int number;  ///< k of `SlotStr`k or `SlotInt`k
+    FieldUse use;
+    std::string_view newText;
+    std::int16_t newNumber;
+    std::string_view meaning;
+};
+
+/// The fields of a type beyond the common ones; none for a free slot and for an unknown type.
+std::span<const ObjectFieldInfo> objectFields(ObjectType type);
+
+inline std::int16_t number(const ObjectSlot& slot, NumberField field) {
+    return slot.SlotInt(field.number);
+}
+inline std::int16_t& number(ObjectSlot& slot, NumberField field) {
+    return slot.SlotInt(field.number);
+}
+inline const std::string& word(const ObjectSlot& slot, WordField field) {
+    return slot.SlotStr(field.number);
+}
+inline std::string& word(ObjectSlot& slot, WordField field) {
+    return slot.SlotStr(field.number);
+}
+
+/// Type of the object in `slot`.
+inline ObjectType typeOf(const ObjectSlot& slot) {
+    return static_cast<ObjectType>(number(slot, kType));
+}
+
+/// Name of a type, as its elements on the canvas bear it; empty for a free slot.
+std::string_view typeName(ObjectType type);
+
+/// True for the types 0 to 9.
+bool isKnownType(ObjectType type);
+/// True for the types that have a picture of their own, Ambient to Reactor.
+bool hasPicture(ObjectType type);
+
+/// Makes `slot` a fresh object of `type` at a place in canvas pixels. The reserved fields, numbers
+/// 30 to 36, stay as they are.
+void ResetSlot(ObjectSlot& slot, ObjectType type, std::int16_t left = 0, std::int16_t top = 0);
+
+}  // namespace quorvel::store
