@@ -7,6 +7,8 @@ if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
 endif()
 
+include(${CMAKE_CURRENT_LIST_DIR}/Lint.cmake)
+
 add_library(quorvel_options INTERFACE)
 if(MSVC)
     target_compile_options(quorvel_options INTERFACE /W4 /WX /utf-8 /permissive-)
