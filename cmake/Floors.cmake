@@ -33,6 +33,8 @@ if(QUORVEL_SANITIZE)
     target_link_options(quorvel_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+include(${CMAKE_CURRENT_LIST_DIR}/Delivery.cmake)
+
 # quorvel_floor(<name> SOURCES <files...> STANDS_ON <floors and libraries...>)
 function(quorvel_floor name)
     cmake_parse_arguments(FLOOR "" "" "SOURCES;STANDS_ON" ${ARGN})
