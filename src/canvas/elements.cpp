@@ -135,8 +135,8 @@ void LinkElement::leaveEvent(QEvent* event) {
 void LinkElement::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const bool hovered = underMouse();
-    painter.fillRect(rect(), QColor(255, 255, 255, hovered ? 46 : 14));
     if (hovered) {
+        painter.fillRect(rect(), QColor(255, 255, 255, 46));
         painter.setPen(QColor(255, 255, 255, 110));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
@@ -147,7 +147,7 @@ void LinkElement::paintEvent(QPaintEvent* /*event*/) {
     QPainterPath chevron(QPointF(-3.5, -8));
     chevron.lineTo(4.5, 0);
     chevron.lineTo(-3.5, 8);
-    const int strength = hovered ? 255 : (leads_ ? 190 : 105);
+    const int strength = hovered ? 255 : (leads_ ? 200 : 130);
     QPen pen(QColor(20, 26, 34, strength * 6 / 10), 5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     painter.strokePath(chevron, pen);
     pen.setColor(QColor(255, 255, 255, strength));

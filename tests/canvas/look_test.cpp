@@ -50,9 +50,9 @@ TEST_P(Looks, AnEmptyScene) {
     open();
     view_.ToggleBorders(true);
     const QImage image = shot("empty");
-    EXPECT_NE(image.pixelColor(kOrigin + QPoint(10, 200)),
-              image.pixelColor(kOrigin + QPoint(300, 200)))
-        << "a link can be found";
+    const QImage ground = image.copy(QRect(kOrigin + QPoint(100, 200), QSize(50, 50)));
+    const QImage link = image.copy(QRect(kOrigin + QPoint(0, 225), QSize(50, 50)));
+    EXPECT_NE(link, ground) << "a link can be found";
 }
 
 TEST_P(Looks, AFullScene) {
@@ -84,6 +84,14 @@ TEST_P(Looks, AFullScene) {
     EXPECT_EQ(plain.pixelColor(kOrigin + QPoint(360, 330)), picture.pixelColor(360, 330))
         << "a QuickSpot is not seen";
     EXPECT_EQ(plain.pixel(kOrigin + QPoint(100, 100)), test::gifColour(30));
+
+    EXPECT_EQ(plain.pixelColor(kOrigin + QPoint(10, 100)), picture.pixelColor(10, 100))
+        << "a link does not spoil the scene";
+
+    link(2).setAttribute(Qt::WA_UnderMouse);
+    const QImage hovered = shot("hovered");
+    EXPECT_NE(hovered.pixelColor(kOrigin + QPoint(100, 10)), picture.pixelColor(100, 10));
+    link(2).setAttribute(Qt::WA_UnderMouse, false);
 
     view_.ToggleBorders(true);
     const QImage bordered = shot("borders");
