@@ -54,7 +54,7 @@ int angleOf(store::LinkSide side) {
 SceneElement::SceneElement(Kind kind, int index, QWidget* parent)
     : QWidget(parent), kind_(kind), index_(index) {
     setMouseTracking(true);
-    setTag({});
+    setProperty(kTag, QString());
     hide();
 }
 
@@ -78,7 +78,9 @@ QString SceneElement::tag() const {
 }
 
 void SceneElement::setTag(const QString& tag) {
-    setProperty(kTag, tag);
+    if (this->tag() != tag) {
+        setProperty(kTag, tag);
+    }
 }
 
 void SceneElement::enterEvent(QEnterEvent* event) {
@@ -137,8 +139,10 @@ void LinkElement::paintEvent(QPaintEvent* /*event*/) {
     const bool hovered = underMouse();
     if (hovered) {
         painter.fillRect(rect(), QColor(255, 255, 255, 46));
-        painter.setPen(QColor(255, 255, 255, 110));
+        painter.setPen(QColor(20, 26, 34, 90));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.setPen(QColor(255, 255, 255, 130));
+        painter.drawRect(rect().adjusted(1, 1, -2, -2));
     }
     // One chevron in the middle, white on a dark shadow, so that it is seen on any picture.
     painter.setRenderHint(QPainter::Antialiasing);
@@ -162,6 +166,9 @@ PictureElement::PictureElement(int index, QWidget* parent)
 }
 
 void PictureElement::setPicture(forms::PicturePtr picture) {
+    if (picture == nullptr && playhead_.picture() == nullptr) {
+        return;
+    }
     playhead_.setPicture(std::move(picture));
     const QSize size = naturalSize();
     setPlace({place().left, place().top, static_cast<std::int16_t>(size.width()),

@@ -101,15 +101,14 @@ std::shared_ptr<PictureFrames> Picture::frames() const {
 
 PicturePtr PictureStore::load(const fs::path& file) {
     std::error_code error;
-    if (!fs::is_regular_file(file, error)) {
-        const bool refused = error == std::errc::permission_denied || fs::exists(file, error);
-        return failed(refused ? Picture::Problem::refused : Picture::Problem::missing);
-    }
-    const auto modified = fs::last_write_time(file, error);
+    // Has an answer for regular files only.
     const std::uintmax_t bytes = fs::file_size(file, error);
     if (error) {
-        return failed(Picture::Problem::refused);
+        const bool missing =
+            error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory;
+        return failed(missing ? Picture::Problem::missing : Picture::Problem::refused);
     }
+    const auto modified = fs::last_write_time(file, error);
     Entry& entry = entries_[store::textOf(file)];
     PicturePtr picture = entry.picture.lock();
     if (picture == nullptr || entry.modified != modified || entry.bytes != bytes) {
