@@ -4,7 +4,7 @@
 
 #include <QSignalSpy>
 
-#include "canvas_fixture.h"
+#include "canvas/canvas_fixture.h"
 #include "store/runtime_error.h"
 
 namespace quorvel::canvas {

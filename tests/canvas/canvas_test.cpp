@@ -4,8 +4,8 @@
 
 #include <QSignalSpy>
 
+#include "canvas/canvas_fixture.h"
 #include "canvas/object_kinds.h"
-#include "canvas_fixture.h"
 
 namespace quorvel::canvas {
 namespace {

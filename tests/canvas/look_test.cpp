@@ -10,7 +10,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 
-#include "canvas_fixture.h"
+#include "canvas/canvas_fixture.h"
 
 namespace quorvel::canvas {
 namespace {

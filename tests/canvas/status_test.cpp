@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 
-#include "canvas_fixture.h"
+#include "canvas/canvas_fixture.h"
 
 namespace quorvel::canvas {
 namespace {
