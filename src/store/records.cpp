@@ -1,6 +1,7 @@
 #include "store/records.h"
 
 #include <algorithm>
+#include <charconv>
 #include <initializer_list>
 
 namespace quorvel::store {
@@ -189,6 +190,24 @@ void fillNewRecord(std::span<char> bytes, std::span<const FieldInfo> fields) {
     }
 }
 
+std::string elementName(const FieldInfo& field, int element) {
+    if (field.count == 1) {
+        return std::string(field.name);
+    }
+    // A run that does not begin at 1 says so in its name: SlotInt4To29.
+    const auto digits = field.name.find_first_of("0123456789");
+    const auto to = field.name.find("To", digits == std::string_view::npos ? 0 : digits);
+    int first = 1;
+    std::string_view stem = field.name;
+    if (digits != std::string_view::npos && to != std::string_view::npos) {
+        std::from_chars(field.name.data() + digits, field.name.data() + to, first);
+        stem = field.name.substr(0, digits);
+    }
+    const std::string number = std::to_string(first + element);
+    const bool endsInOffset = stem == field.name && digits != std::string_view::npos;
+    return std::string(stem) + (endsInOffset ? "(" + number + ")" : number);
+}
+
 std::string dumpRecord(std::span<const char> bytes, std::span<const FieldInfo> fields) {
     std::string out;
     for (const FieldInfo& field : fields) {
@@ -196,8 +215,7 @@ std::string dumpRecord(std::span<const char> bytes, std::span<const FieldInfo> f
             const auto element =
                 bytes.subspan(static_cast<std::size_t>(field.offset + i * field.width),
                               static_cast<std::size_t>(field.width));
-            const std::string index = field.count > 1 ? "(" + std::to_string(i + 1) + ")" : "";
-            const std::string label = std::string(field.name) + index;
+            const std::string label = elementName(field, i);
             if (field.kind == FieldInfo::Kind::slots) {
                 out += label + ":\n" + dumpRecord(element, fieldsOf<ObjectSlotRecord>());
             } else if (field.kind == FieldInfo::Kind::number) {

@@ -133,7 +133,12 @@ std::span<const RecordInfo> allRecords();
 /// Fills `bytes`, a record of the given fields, with the values of a new record.
 void fillNewRecord(std::span<char> bytes, std::span<const FieldInfo> fields);
 
-/// A readable dump, one line for each field element.
+/// The name of element `element`, counted from 0, of a field: `SlotInt5` is the second element of
+/// `SlotInt4To29`, `DiscLabel2` of `DiscLabel`, `Reserved156(2)` of `Reserved156`. A plain field
+/// has its own name.
+std::string elementName(const FieldInfo& field, int element);
+
+/// A readable dump of `bytes`, a whole record of the given fields: one line for each field element.
 std::string dumpRecord(std::span<const char> bytes, std::span<const FieldInfo> fields);
 
 /// The bytes of a record. The record must outlive the span.
