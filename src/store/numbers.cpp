@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 #include <string>
+#include <system_error>
 
 namespace quorvel::store {
 
@@ -29,7 +30,12 @@ double val(std::string_view text) {
     }
     // Not strtod: its decimal point follows the desktop's language.
     double value = 0;
-    std::from_chars(number.data(), number.data() + number.size(), value);
+    const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (result.ec == std::errc::result_out_of_range) {
+        const bool large = number.find_first_of("123456789") < number.find('.');
+        value = large ? std::numeric_limits<double>::max() : 0;
+        return number.front() == '-' ? -value : value;
+    }
     return value;
 }
 

@@ -10,11 +10,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
+char lowerAscii(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+}
+
 /// Lower case of one byte of the code page.
 char lower(char c) {
     const auto byte = static_cast<unsigned char>(c);
     const bool latinCapital = byte >= 0xC0 && byte <= 0xDE && byte != 0xD7;
-    if ((c >= 'A' && c <= 'Z') || latinCapital) {
+    if (latinCapital) {
         return static_cast<char>(byte + 0x20U);
     }
     switch (byte) {
@@ -25,7 +29,7 @@ char lower(char c) {
         case 0x9F:
             return static_cast<char>(0xFFU);
         default:
-            return c;
+            return lowerAscii(c);
     }
 }
 
@@ -61,7 +65,8 @@ bool sameName(std::string_view a, std::string_view b) {
         return true;
     }
     if (!fitsCodePage(a) || !fitsCodePage(b)) {
-        return false;
+        return std::ranges::equal(a, b,
+                                  [](char x, char y) { return lowerAscii(x) == lowerAscii(y); });
     }
     return std::ranges::equal(encodeText(a), encodeText(b),
                               [](char x, char y) { return lower(x) == lower(y); });

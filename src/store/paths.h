@@ -33,7 +33,8 @@ std::filesystem::path resourceFolder(const std::filesystem::path& projectFolder,
 std::optional<std::filesystem::path> findResource(const std::filesystem::path& projectFolder,
                                                   ResourceFolder kind, std::string_view name);
 
-/// True when both names are equal but for the case of letters of the records' code page.
+/// True when both names are equal but for the case of letters of the records' code page; of names
+/// that do not fit into the page the letters A to Z count.
 bool sameName(std::string_view a, std::string_view b);
 
 }  // namespace quorvel::store

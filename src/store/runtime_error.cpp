@@ -1,5 +1,6 @@
 #include "store/runtime_error.h"
 
+#include <cerrno>
 #include <utility>
 
 namespace quorvel::store {
@@ -35,6 +36,17 @@ std::string_view describe(ErrorNumber number) {
 RuntimeError::RuntimeError(ErrorNumber number, std::filesystem::path file)
     : std::runtime_error(std::string(describe(number))), number_(number), file_(std::move(file)) {}
 
+namespace {
+/// The standard has no condition for a used-up quota.
+bool isOverQuota([[maybe_unused]] std::error_code error) {
+#if defined(EDQUOT) && !defined(_WIN32)
+    return error.value() == EDQUOT;
+#else
+    return false;
+#endif
+}
+}  // namespace
+
 ErrorNumber errorNumberOf(std::error_code error) {
     const auto is = [&error](std::errc condition) { return error == condition; };
     if (is(std::errc::no_such_file_or_directory)) {
@@ -48,7 +60,7 @@ ErrorNumber errorNumberOf(std::error_code error) {
         is(std::errc::text_file_busy)) {
         return ErrorNumber::accessError;
     }
-    if (is(std::errc::no_space_on_device) || is(std::errc::file_too_large)) {
+    if (is(std::errc::no_space_on_device) || is(std::errc::file_too_large) || isOverQuota(error)) {
         return ErrorNumber::diskFull;
     }
     if (is(std::errc::too_many_files_open) || is(std::errc::too_many_files_open_in_system)) {

@@ -99,7 +99,7 @@ class ProjectBuilder {
     ProjectBuilder& mmedia(std::string_view name, std::string_view bytes);
 
     /// Writes the project into `folder`, which has to exist and to hold no project yet.
-    [[nodiscard]] TestProject build(const std::filesystem::path& folder) const;
+    TestProject build(const std::filesystem::path& folder) const;
 
   private:
     template <class Record>

@@ -22,7 +22,7 @@ class TempFolder {
         return path_ / relative;
     }
     /// Makes a folder, with those above it, and returns its path.
-    [[nodiscard]] std::filesystem::path makeFolder(std::string_view relative) const;
+    std::filesystem::path makeFolder(std::string_view relative) const;
 
   private:
     std::filesystem::path path_;
