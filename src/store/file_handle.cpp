@@ -4,6 +4,12 @@
 #include <string>
 #include <utility>
 
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
 #include "store/runtime_error.h"
 
 namespace quorvel::store {
@@ -15,13 +21,37 @@ namespace fs = std::filesystem;
     throw RuntimeError(errorNumberOf({systemError, std::generic_category()}), path);
 }
 
-std::FILE* openFile(const fs::path& path, const char* mode) {
+std::FILE* openFile(const fs::path& path, std::string mode) {
     errno = 0;
 #ifdef _WIN32
-    const std::string narrow = mode;
-    return _wfopen(path.c_str(), std::wstring(narrow.begin(), narrow.end()).c_str());
+    mode += "N";
+    return _wfopen(path.c_str(), std::wstring(mode.begin(), mode.end()).c_str());
 #else
-    return std::fopen(path.c_str(), mode);
+    mode += "e";
+    return std::fopen(path.c_str(), mode.c_str());
+#endif
+}
+
+/// The system would take a path with a zero byte for a shorter one.
+void refuseZeroBytes(const fs::path& path) {
+    if (path.native().find(fs::path::value_type{}) != fs::path::string_type::npos) {
+        throw RuntimeError(ErrorNumber::badFileName, path);
+    }
+}
+
+/// Why `path` is not there.
+ErrorNumber missing(const fs::path& path, std::error_code error) {
+    const ErrorNumber number = error ? errorNumberOf(error) : ErrorNumber::fileNotFound;
+    std::error_code ignored;
+    const bool hasFolder = !path.has_parent_path() || fs::exists(path.parent_path(), ignored);
+    return number == ErrorNumber::fileNotFound && !hasFolder ? ErrorNumber::pathNotFound : number;
+}
+
+bool cutFile(std::FILE* file, std::uintmax_t length) {
+#ifdef _WIN32
+    return _chsize_s(_fileno(file), static_cast<__int64>(length)) == 0;
+#else
+    return ::ftruncate(::fileno(file), static_cast<off_t>(length)) == 0;
 #endif
 }
 
@@ -33,10 +63,11 @@ FileHandle::FileHandle(std::FILE* file, fs::path path, bool writable)
 }
 
 FileHandle FileHandle::open(const fs::path& path) {
+    refuseZeroBytes(path);
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
     if (!fs::exists(status)) {
-        throw RuntimeError(error ? errorNumberOf(error) : ErrorNumber::fileNotFound, path);
+        throw RuntimeError(missing(path, error), path);
     }
     // Opening a pipe would wait for its other end, a device might answer without an end.
     if (!fs::is_regular_file(status)) {
@@ -52,11 +83,13 @@ FileHandle FileHandle::open(const fs::path& path) {
 }
 
 FileHandle FileHandle::openOrCreate(const fs::path& path) {
+    refuseZeroBytes(path);
     std::error_code error;
     if (!fs::exists(path, error)) {
         std::FILE* file = openFile(path, "ab");
         if (file == nullptr) {
-            fail(path, errno);
+            const std::error_code reason(errno, std::generic_category());
+            throw RuntimeError(missing(path, reason), path);
         }
         std::fclose(file);
     }
@@ -64,15 +97,15 @@ FileHandle FileHandle::openOrCreate(const fs::path& path) {
 }
 
 std::uintmax_t FileHandle::size() const {
-    std::error_code error;
-    const std::uintmax_t bytes = fs::file_size(path_, error);
-    if (error) {
-        throw RuntimeError(errorNumberOf(error), path_);
+    seek(0);
+    long end = -1;
+    if (std::fseek(file_.get(), 0, SEEK_END) != 0 || (end = std::ftell(file_.get())) < 0) {
+        fail(path_, errno);
     }
-    return bytes;
+    return static_cast<std::uintmax_t>(end);
 }
 
-void FileHandle::seek(std::uintmax_t offset) {
+void FileHandle::seek(std::uintmax_t offset) const {
     if (file_ == nullptr) {
         throw RuntimeError(ErrorNumber::badFileName, path_);
     }
@@ -94,10 +127,13 @@ std::size_t FileHandle::readAt(std::uintmax_t offset, std::span<char> into) {
 }
 
 void FileHandle::writeAt(std::uintmax_t offset, std::span<const char> bytes) {
+    seek(offset);
     if (!writable_) {
         throw RuntimeError(ErrorNumber::accessError, path_);
     }
     const std::uintmax_t before = size();
+    const bool acrossTheEnd = offset < before && before - offset < bytes.size();
+    const std::string tail = acrossTheEnd ? tailFrom(offset, before) : std::string();
     seek(offset);
     errno = 0;
     if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) == bytes.size() &&
@@ -105,12 +141,25 @@ void FileHandle::writeAt(std::uintmax_t offset, std::span<const char> bytes) {
         return;
     }
     const int systemError = errno;
-    std::clearerr(file_.get());
-    std::error_code ignored;
-    if (fs::file_size(path_, ignored) > before) {
-        fs::resize_file(path_, before, ignored);
-    }
+    restore(before, offset, tail);
     fail(path_, systemError);
+}
+
+std::string FileHandle::tailFrom(std::uintmax_t offset, std::uintmax_t end) {
+    std::string tail(static_cast<std::size_t>(end - offset), '\0');
+    tail.resize(readAt(offset, tail));
+    return tail;
+}
+
+void FileHandle::restore(std::uintmax_t length, std::uintmax_t offset, std::span<const char> tail) {
+    // An error here adds nothing to the one that is about to be thrown.
+    std::clearerr(file_.get());
+    (void)cutFile(file_.get(), length);
+    if (!tail.empty() && std::fseek(file_.get(), static_cast<long>(offset), SEEK_SET) == 0) {
+        (void)std::fwrite(tail.data(), 1, tail.size(), file_.get());
+        (void)std::fflush(file_.get());
+    }
+    std::clearerr(file_.get());
 }
 
 void FileHandle::close() {

@@ -6,12 +6,13 @@
 #include <filesystem>
 #include <memory>
 #include <span>
+#include <string>
 
 namespace quorvel::store {
 
 /// Owns an open file; closing may also be left to the destructor, which cannot report an error.
 /// Every failure is thrown as `RuntimeError`. There is no buffer of its own: each read and each
-/// write is one call to the system.
+/// write is one call to the system. Programs that are started do not inherit the file.
 class FileHandle {
   public:
     FileHandle() = default;
@@ -25,6 +26,7 @@ class FileHandle {
     [[nodiscard]] bool isOpen() const { return file_ != nullptr; }
     [[nodiscard]] bool isWritable() const { return writable_; }
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+    /// Length of the open file in bytes, whatever became of its name.
     [[nodiscard]] std::uintmax_t size() const;
 
     /// Reads at `offset` bytes from the start; returns the bytes read, fewer than asked only at the
@@ -32,7 +34,7 @@ class FileHandle {
     std::size_t readAt(std::uintmax_t offset, std::span<char> into);
 
     /// Writes all of `bytes` at `offset` in one call. When that fails the file keeps the length
-    /// that it had.
+    /// that it had, and its last bytes too where the write would have gone across its end.
     void writeAt(std::uintmax_t offset, std::span<const char> bytes);
 
     /// Closes the file and reports an error of it. Closing a closed handle does nothing.
@@ -43,7 +45,9 @@ class FileHandle {
         void operator()(std::FILE* file) const { std::fclose(file); }
     };
     FileHandle(std::FILE* file, std::filesystem::path path, bool writable);
-    void seek(std::uintmax_t offset);
+    void seek(std::uintmax_t offset) const;
+    [[nodiscard]] std::string tailFrom(std::uintmax_t offset, std::uintmax_t end);
+    void restore(std::uintmax_t length, std::uintmax_t offset, std::span<const char> tail);
 
     std::unique_ptr<std::FILE, Closer> file_;
     std::filesystem::path path_;
