@@ -1,5 +1,7 @@
 #include "store/game_stores.h"
 
+#include <algorithm>
+
 namespace quorvel::store {
 namespace {
 
@@ -20,9 +22,20 @@ void mirrorCombination(Project& project, int number, const ItemRecord& item) {
     project.itemFile.write(partner, other);
 }
 
-void savePosition(LocationRecord& record, const MapIcon& icon) {
-    record.LocationX = icon.x;
-    record.LocationY = icon.y;
+template <class Record>
+void blankUnsetTexts(Record& record) {
+    store::blankUnsetTexts(bytesOf(record), fieldsOf<Record>());
+}
+
+/// The first record is written even without an icon: it carries the map's picture.
+void saveFirstPosition(Project& project, const MapIcon* icon) {
+    LocationRecord record = project.locationFile.read(1);
+    if (icon != nullptr) {
+        record.LocationX = icon->x;
+        record.LocationY = icon->y;
+    }
+    record.MapImage = project.lists.MapImage;
+    project.locationFile.write(1, record);
 }
 
 }  // namespace
@@ -35,12 +48,13 @@ void SaveItem(Project& project, int number, const ItemRecord& form) {
     ItemRecord record = form;
     record.Reserved188.unset();
     record.SecurityCode = 0;
+    blankUnsetTexts(record);
     project.itemFile.write(number, record);
     mirrorCombination(project, number, record);
 }
 
 std::string GetItemIcon(Project& project, int number) {
-    return project.itemFile.read(number).ItemIcon.text();
+    return number < 1 ? std::string() : project.itemFile.read(number).ItemIcon.text();
 }
 
 CueCardRecord LoadCard(Project& project, int number) {
@@ -58,6 +72,7 @@ void SaveCard(Project& project, int number, const CueCardRecord& form) {
     record.SecurityCode = 0;
     record.Reserved412 = {};
     record.Reserved1662 = {};
+    blankUnsetTexts(record);
     project.cardFile.write(number, record);
 }
 
@@ -78,6 +93,7 @@ void SaveLocation(Project& project, int number, const LocationRecord& form) {
     }
     record.Reserved106 = {};
     record.SecurityCode = 0;
+    blankUnsetTexts(record);
     project.locationFile.write(number, record);
 }
 
@@ -95,15 +111,15 @@ void RemoveLocation(Project& project, int number) {
 }
 
 void SaveMapPositions(Project& project, std::span<const MapIcon> icons) {
+    const auto first = std::ranges::find(icons, 1, &MapIcon::number);
+    saveFirstPosition(project, first == icons.end() ? nullptr : &*first);
     for (const MapIcon& icon : icons) {
-        if (icon.number != 1 && (!icon.visible || icon.number > project.LocationCount)) {
+        if (icon.number < 2 || icon.number > project.LocationCount || !icon.visible) {
             continue;
         }
         LocationRecord record = project.locationFile.read(icon.number);
-        savePosition(record, icon);
-        if (icon.number == 1) {
-            record.MapImage = project.lists.MapImage;
-        }
+        record.LocationX = icon.x;
+        record.LocationY = icon.y;
         project.locationFile.write(icon.number, record);
     }
 }

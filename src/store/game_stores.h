@@ -1,7 +1,8 @@
 /// Items, map locations and cue cards: one record each, as their editors load and save them.
 ///
 /// A form passes a record that holds its controls' values. Record n is number n; a new record is
-/// appended at count + 1 and the caller raises the count.
+/// appended at count + 1 and the caller raises the count. A text of the form that was never
+/// assigned is written as an empty one.
 #pragma once
 
 #include <span>
@@ -16,7 +17,8 @@ ItemRecord LoadItem(Project& project, int number);
 /// Writes every field of `form` that the editor knows; the reserved text becomes zero bytes and the
 /// security code 0. A combination partner that exists gets the mirrored combination.
 void SaveItem(Project& project, int number, const ItemRecord& form);
-/// File name of the item's icon.
+/// File name of the item's icon; empty for number 0 and below, which mean no item, and beyond the
+/// store.
 std::string GetItemIcon(Project& project, int number);
 
 /// Card `number` as stored, with volumes above 0 set to 0.

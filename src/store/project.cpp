@@ -12,6 +12,13 @@ namespace quorvel::store {
 
 namespace fs = std::filesystem;
 
+namespace {
+/// A view toggle is on at 1 alone.
+std::int16_t toggle(std::int16_t value) {
+    return value == 1 ? 1 : 0;
+}
+}  // namespace
+
 VersionGate versionGate(std::int16_t projectVersion) {
     if (projectVersion > kProjectVersion) {
         return VersionGate::newer;
@@ -42,6 +49,7 @@ void Project::takeProjectRecord(const ProjectRecord& record) {
     ProjectNotes = record.ProjectNotes.text();
     SecurityCode = record.SecurityCode;
     SecurityOn = SecurityCode != 0;
+    ProjectVersion = record.ProjectVersion;
     CurrentItem = record.CurrentItem;
     CurrentCueCard = record.CurrentCueCard;
     ViewBorders = record.ViewBorders;
@@ -113,9 +121,9 @@ ProjectRecord Project::toRecord() const {
     record.ProjectVersion = ProjectVersionOverride ? ProjectVersion : kProjectVersion;
     record.CurrentCueCard = CurrentCueCard;
     record.CueCardCount = static_cast<std::int16_t>(CueCardCount);
-    record.ViewBorders = ViewBorders;
-    record.ViewAnimations = ViewAnimations;
-    record.ViewLockObjects = ViewLockObjects;
+    record.ViewBorders = toggle(ViewBorders);
+    record.ViewAnimations = toggle(ViewAnimations);
+    record.ViewLockObjects = ViewLockObjects;  // has no button, so nothing ever changes it
     return record;
 }
 

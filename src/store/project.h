@@ -74,7 +74,8 @@ class Project {
 
     /// Opens the project file and reads its record. The file stays open.
     ProjectRecord openProjectFile();
-    /// Takes texts, view toggles and the security code of `record`.
+    /// Takes the texts, the version, the security code, the current item and card and the view
+    /// toggles of `record`. The current scene is not taken: it is the one that gets loaded.
     void takeProjectRecord(const ProjectRecord& record);
 
     // The list readers: each opens its store for the project's life and fills its list. Only

@@ -190,6 +190,20 @@ void fillNewRecord(std::span<char> bytes, std::span<const FieldInfo> fields) {
     }
 }
 
+void blankUnsetTexts(std::span<char> bytes, std::span<const FieldInfo> fields) {
+    for (const FieldInfo& field : fields) {
+        for (int i = 0; i < field.count; ++i) {
+            const auto element =
+                bytes.subspan(static_cast<std::size_t>(field.offset + i * field.width),
+                              static_cast<std::size_t>(field.width));
+            const bool isOurs = field.kind == FieldInfo::Kind::text && field.newTextCount > 0;
+            if (isOurs && std::ranges::all_of(element, [](char c) { return c == '\0'; })) {
+                std::ranges::fill(element, ' ');
+            }
+        }
+    }
+}
+
 std::string elementName(const FieldInfo& field, int element) {
     if (field.count == 1) {
         return std::string(field.name);

@@ -133,6 +133,10 @@ std::span<const RecordInfo> allRecords();
 /// Fills `bytes`, a record of the given fields, with the values of a new record.
 void fillNewRecord(std::span<char> bytes, std::span<const FieldInfo> fields);
 
+/// Gives every text of `bytes`, a record of the given fields, that holds zero bytes alone the
+/// blanks of an empty text. Texts whose new value is zero bytes are left as they are.
+void blankUnsetTexts(std::span<char> bytes, std::span<const FieldInfo> fields);
+
 /// The name of element `element`, counted from 0, of a field: `SlotInt5` is the second element of
 /// `SlotInt4To29`, `DiscLabel2` of `DiscLabel`, `Reserved156(2)` of `Reserved156`. A plain field
 /// has its own name.

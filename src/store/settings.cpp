@@ -61,6 +61,10 @@ void copySlice(SettingsSlice slice, Settings& to, const Settings& from) {
     }
 }
 
+bool isSlice(SettingsSlice slice) {
+    return slice >= SettingsSlice::genSettings && slice <= SettingsSlice::gameIntro;
+}
+
 /// What a save sets beside the fields of the form.
 void applySaveRules(SettingsSlice slice, Settings& record) {
     if (slice == SettingsSlice::edButtons) {
@@ -103,8 +107,13 @@ GameSettingsRecord LoadSettings(Project& project, SettingsSlice slice) {
 }
 
 void SaveSettings(Project& project, SettingsSlice slice, const GameSettingsRecord& form) {
+    if (!isSlice(slice)) {
+        return;
+    }
+    Settings filled = form;
+    blankUnsetTexts(bytesOf(filled), fieldsOf<Settings>());
     Settings record = project.settingsFile.read(1);
-    copySlice(slice, record, form);
+    copySlice(slice, record, filled);
     applySaveRules(slice, record);
     project.settingsFile.write(1, record);
     if (slice == SettingsSlice::genSettings) {

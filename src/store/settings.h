@@ -20,7 +20,8 @@ GameSettingsRecord LoadSettings(Project& project, SettingsSlice slice);
 
 /// Puts the slice's fields of `form` into the stored record, with the rules of the slice: bounds,
 /// reserved words, and `CustomLayoutFlag` 1 once the player has been customised. Slice 1 also
-/// renews `GameTitle` and `PlayerName` of the project.
+/// renews `GameTitle` and `PlayerName` of the project. A text of the form that was never assigned
+/// is written as an empty one; a slice that does not exist writes nothing.
 void SaveSettings(Project& project, SettingsSlice slice, const GameSettingsRecord& form);
 
 /// A score flag within 1 to 255; 0 means the default 255.
