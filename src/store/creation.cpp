@@ -18,7 +18,10 @@ void makeProjectFolders(const Project& project) {
             throw RuntimeError(ErrorNumber::accessError, path);
         }
         if (!fs::create_directory(path, error)) {
-            throw RuntimeError(errorNumberOf(error), path);
+            // A folder is not found only when the one above it is missing.
+            const ErrorNumber number = errorNumberOf(error);
+            throw RuntimeError(
+                number == ErrorNumber::fileNotFound ? ErrorNumber::pathNotFound : number, path);
         }
     }
 }
