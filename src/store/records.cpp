@@ -154,21 +154,48 @@ template <> std::span<const FieldInfo> fieldsOf<SkinRecord>() {
 
 namespace {
 template <class Record>
-RecordInfo infoOf(std::string_view name, std::string_view file) {
-    return {name, file, static_cast<int>(sizeof(Record)), fieldsOf<Record>()};
+RecordInfo infoOf(std::string_view name, std::string_view file, std::string_view about) {
+    return {name, file, static_cast<int>(sizeof(Record)), fieldsOf<Record>(), about};
 }
 }  // namespace
 
 std::span<const RecordInfo> allRecords() {
     static const std::array all = {
-        infoOf<ProjectRecord>("ProjectRecord", "<name>.qvl"),
-        infoOf<SceneRecord>("SceneRecord", "resource/Quorvel1.dat"),
-        infoOf<ObjectSlotRecord>("ObjectSlot", "inside SceneRecord"),
-        infoOf<LocationRecord>("LocationRecord", "resource/Quorvel2.dat"),
-        infoOf<ItemRecord>("ItemRecord", "resource/Quorvel3.dat"),
-        infoOf<GameSettingsRecord>("GameSettingsRecord", "resource/Quorvel4.dat"),
-        infoOf<CueCardRecord>("CueCardRecord", "resource/Quorvel5.dat"),
-        infoOf<SkinRecord>("SkinRecord", "skindata.ias"),
+        infoOf<ProjectRecord>(
+            "ProjectRecord", "<name>.qvl",
+            "The one record of the project file: who made the project, and where the author "
+            "stood when it was last closed."),
+        infoOf<SceneRecord>(
+            "SceneRecord", "resource/Quorvel1.dat",
+            "Record n is scene n: a picture of 700 by 475 pixels, what is heard, the four "
+            "edge links and 20 object slots."),
+        infoOf<ObjectSlotRecord>(
+            "ObjectSlot", "inside SceneRecord",
+            "One object of a scene. Slot n begins at byte 255 + 207 × (n - 1) of the scene's "
+            "record; offsets here count from the slot. The type in the first field decides "
+            "what the texts and numbers mean. An edit of an object never touches the last "
+            "seven numbers."),
+        infoOf<LocationRecord>(
+            "LocationRecord", "resource/Quorvel2.dat",
+            "Record n is location n of the map, at most 20. A removed location keeps its "
+            "record. Record 1 is always there, since it carries the map's picture, even when "
+            "no location 1 exists."),
+        infoOf<ItemRecord>(
+            "ItemRecord", "resource/Quorvel3.dat",
+            "Record n is inventory item n. Items are never removed. A combination is stored "
+            "in both of its items."),
+        infoOf<GameSettingsRecord>(
+            "GameSettingsRecord", "resource/Quorvel4.dat",
+            "The one record of the settings store: everything that holds for the whole game. "
+            "Places on the player's screen are texts x/y in pixels."),
+        infoOf<CueCardRecord>(
+            "CueCardRecord", "resource/Quorvel5.dat",
+            "Record n is cue card n: up to five choices of a conversation. In each run the "
+            "first field belongs to choice 1."),
+        infoOf<SkinRecord>(
+            "SkinRecord", "skindata.ias",
+            "The one record of a skin, which carries the look of a player from one project to "
+            "another. It lies in the skin's folder, beside its pictures."),
     };
     return all;
 }

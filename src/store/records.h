@@ -125,6 +125,7 @@ struct RecordInfo {
     std::string_view file;  ///< where such records lie, as the author knows it
     int length;             ///< in bytes
     std::span<const FieldInfo> fields;
+    std::string_view about;  ///< what the record stands for, in a sentence or two
 };
 
 /// All record types that files are made of, and the object slot that the scene contains.

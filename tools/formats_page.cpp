@@ -1,0 +1,198 @@
+/// Writes docs/formats.md, the page about the project files, from the record descriptions of the
+/// store. Without an argument the page goes to the standard output, with one into that file.
+
+#include <fstream>
+#include <iostream>
+#include <string>
+
+#include "store/records.h"
+
+namespace {
+
+using quorvel::store::allRecords;
+using quorvel::store::elementName;
+using quorvel::store::FieldInfo;
+using quorvel::store::RecordInfo;
+
+constexpr std::string_view kIntroduction = R"(# The files of a Quorvel project
+
+This page is for people who write a player, a converter or another tool that reads or writes the
+files of a project. It is made from the record descriptions in `src/store/defs`; do not edit it by
+hand. `cmake --build <build folder> --target renew_formats_page` writes it anew.
+
+A project is one project file, `<name>.qvl`, and beside it a folder `resource`:
+
+```
+MyGame/
+    MyGame.qvl               the project file
+    Game.exe                 the player
+    resource/
+        Quorvel1.dat         scenes
+        Quorvel2.dat         locations of the map
+        Quorvel3.dat         inventory items
+        Quorvel4.dat         game settings
+        Quorvel5.dat         cue cards
+        gfx/                 pictures and animations
+        mmedia/              sounds, music and movies
+```
+
+## Conventions
+
+**Records.** Each file is a row of records of one length, without header and trailer. Record
+numbers begin at 1: record *n* lies at byte (*n* - 1) × length. The number is the record's
+identity. Scene 7 is record 7 of the scene store, and a link with target 7 leads to it; nothing is
+ever moved or taken out.
+
+**Count.** How many records a file holds follows from its length alone: length of the file divided
+by the length of a record, rounded to the nearest whole number (a half goes to the even one). The
+counts in the project file are a copy. No store holds more than 32767 records.
+
+**Beyond the end.** A record that is not there reads as zero bytes; of a record that is there in
+part the rest is zero bytes. Reading never makes a file longer.
+
+**No padding.** The fields of a record follow one another without gaps, so odd offsets are normal.
+
+**Numbers** (`int16`) are signed 16-bit integers, the low byte first. Check boxes are 0 and 1.
+
+**Texts** (`text` *n*) have a fixed width of *n* bytes in the code page windows-1252. They begin at
+the left and are filled up with blanks (0x20); there is no terminator and no length. A reader takes
+the blanks off both ends. A text of zero bytes alone counts as empty too. The five bytes that the
+code page leaves unassigned (0x81, 0x8D, 0x8F, 0x90, 0x9D) stand for the control characters of the
+same number, so every byte can be read and written back. A longer text is cut when it is written.
+
+**File names** are bare names without a folder, at most 15 characters with the extension. Pictures
+and animations are looked up in `resource/gfx`, sounds and movies in `resource/mmedia`, in any
+letter case.
+
+**Runs.** "5 × text 15" is five such fields one after the other, the first at the given offset.
+
+**Reserved** fields have no meaning to the editor. A tool that changes a record keeps them.
+
+**New value** is what the editor writes into a fresh record: *blank* is a text of blanks, *zero
+bytes* a text that was never set.
+
+## The security code
+
+The project file and record 1 of each of the five stores hold the same number, the security code.
+It is 0 in all six while project security is off, and 1 to 5000 while it is on. The editor opens a
+project only when all six agree; item and card stores without a record agree with any code. While a
+project is being edited, record 1 of a store may hold 0 for a time: the codes are written when the
+project is closed. A tool that writes record 1 of a store has to keep its code.
+
+## The records
+
+)";
+
+/// Text of a table's cell: what Markdown or a browser would take for markup is made harmless.
+std::string cell(std::string_view text) {
+    std::string out;
+    for (const char c : text) {
+        if (c == '<') {
+            out += "&lt;";
+        } else if (c == '>') {
+            out += "&gt;";
+        } else if (c == '|' || c == '*' || c == '_') {
+            out += std::string{'\\', c};
+        } else {
+            out += c;
+        }
+    }
+    return out;
+}
+
+std::string code(std::string_view text) {
+    return "`" + std::string(text) + "`";
+}
+
+std::string typeOf(const FieldInfo& field) {
+    std::string type = field.kind == FieldInfo::Kind::number ? "int16"
+                       : field.kind == FieldInfo::Kind::text ? "text " + std::to_string(field.width)
+                                                             : "ObjectSlot";
+    return field.count > 1 ? std::to_string(field.count) + " × " + type : type;
+}
+
+/// A run that bears its numbers in its name is shown by its first and last element.
+std::string nameOf(const FieldInfo& field) {
+    const std::string first = elementName(field, 0);
+    if (first.starts_with(field.name) || field.count == 1) {
+        return code(field.name);
+    }
+    return code(first) + " to " + code(elementName(field, field.count - 1));
+}
+
+std::string newTextOf(std::string_view text) {
+    return text.empty() ? "*blank*" : "\"" + cell(text) + "\"";
+}
+
+std::string newValueOf(const FieldInfo& field) {
+    if (field.kind == FieldInfo::Kind::slots) {
+        return "free slots";
+    }
+    if (field.kind == FieldInfo::Kind::number) {
+        return field.name == "SlotInt31To36" ? "number of the slot"
+                                             : std::to_string(field.newNumber);
+    }
+    if (field.newTextCount == 0) {
+        return "*zero bytes*";
+    }
+    std::string values;
+    for (int i = 0; i < field.newTextCount; ++i) {
+        values += (i > 0 ? ", " : "") + newTextOf(field.newTexts[static_cast<std::size_t>(i)]);
+    }
+    return values;
+}
+
+std::string headingOf(const RecordInfo& record) {
+    return std::string(record.name);
+}
+
+void printOverview(std::ostream& out) {
+    out << "| Record | Where | Bytes |\n| --- | --- | ---: |\n";
+    for (const RecordInfo& record : allRecords()) {
+        const std::string anchor = "#" + headingOf(record);
+        std::string lower;
+        for (const char c : anchor) {
+            lower += c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+        }
+        const bool isFile = record.file.find(' ') == std::string_view::npos;
+        out << "| [" << record.name << "](" << lower << ") | "
+            << (isFile ? code(record.file) : cell(record.file)) << " | " << record.length << " |\n";
+    }
+}
+
+void printRecord(std::ostream& out, const RecordInfo& record) {
+    out << "\n### " << headingOf(record) << "\n\n"
+        << record.about << "\n\n"
+        << record.length << " bytes.\n\n"
+        << "| Offset | Type | Field | Meaning | New value |\n"
+        << "| ---: | --- | --- | --- | --- |\n";
+    for (const FieldInfo& field : record.fields) {
+        out << "| " << field.offset << " | " << typeOf(field) << " | " << nameOf(field) << " | "
+            << cell(field.meaning) << " | " << newValueOf(field) << " |\n";
+    }
+}
+
+void printPage(std::ostream& out) {
+    out << kIntroduction;
+    printOverview(out);
+    for (const RecordInfo& record : allRecords()) {
+        printRecord(out, record);
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 2) {
+        printPage(std::cout);
+        return std::cout.flush() ? 0 : 1;
+    }
+    std::ofstream file(argv[1], std::ios::binary);
+    printPage(file);
+    file.close();
+    if (!file) {
+        std::cerr << "cannot write " << argv[1] << "\n";
+        return 1;
+    }
+    return 0;
+}
