@@ -4,12 +4,6 @@
 #include <string>
 #include <utility>
 
-#ifdef _WIN32
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
-
 #include "store/runtime_error.h"
 
 namespace quorvel::store {
@@ -45,14 +39,6 @@ ErrorNumber missing(const fs::path& path, std::error_code error) {
     std::error_code ignored;
     const bool hasFolder = !path.has_parent_path() || fs::exists(path.parent_path(), ignored);
     return number == ErrorNumber::fileNotFound && !hasFolder ? ErrorNumber::pathNotFound : number;
-}
-
-bool cutFile(std::FILE* file, std::uintmax_t length) {
-#ifdef _WIN32
-    return _chsize_s(_fileno(file), static_cast<__int64>(length)) == 0;
-#else
-    return ::ftruncate(::fileno(file), static_cast<off_t>(length)) == 0;
-#endif
 }
 
 }  // namespace
@@ -154,7 +140,10 @@ std::string FileHandle::tailFrom(std::uintmax_t offset, std::uintmax_t end) {
 void FileHandle::restore(std::uintmax_t length, std::uintmax_t offset, std::span<const char> tail) {
     // An error here adds nothing to the one that is about to be thrown.
     std::clearerr(file_.get());
-    (void)cutFile(file_.get(), length);
+    std::error_code ignored;
+    if (fs::file_size(path_, ignored) > length && !ignored) {
+        fs::resize_file(path_, length, ignored);
+    }
     if (!tail.empty() && std::fseek(file_.get(), static_cast<long>(offset), SEEK_SET) == 0) {
         (void)std::fwrite(tail.data(), 1, tail.size(), file_.get());
         (void)std::fflush(file_.get());

@@ -203,9 +203,7 @@ std::span<const RecordInfo> allRecords() {
 void fillNewRecord(std::span<char> bytes, std::span<const FieldInfo> fields) {
     for (const FieldInfo& field : fields) {
         for (int i = 0; i < field.count; ++i) {
-            const auto element =
-                bytes.subspan(static_cast<std::size_t>(field.offset + i * field.width),
-                              static_cast<std::size_t>(field.width));
+            const auto element = elementBytes(bytes, field, i);
             if (field.kind == FieldInfo::Kind::slots) {
                 fillNewSlot(element, i + 1);
             } else if (field.kind == FieldInfo::Kind::number) {
@@ -220,9 +218,7 @@ void fillNewRecord(std::span<char> bytes, std::span<const FieldInfo> fields) {
 void blankUnsetTexts(std::span<char> bytes, std::span<const FieldInfo> fields) {
     for (const FieldInfo& field : fields) {
         for (int i = 0; i < field.count; ++i) {
-            const auto element =
-                bytes.subspan(static_cast<std::size_t>(field.offset + i * field.width),
-                              static_cast<std::size_t>(field.width));
+            const auto element = elementBytes(bytes, field, i);
             const bool isOurs = field.kind == FieldInfo::Kind::text && field.newTextCount > 0;
             if (isOurs && std::ranges::all_of(element, [](char c) { return c == '\0'; })) {
                 std::ranges::fill(element, ' ');
@@ -253,9 +249,7 @@ std::string dumpRecord(std::span<const char> bytes, std::span<const FieldInfo> f
     std::string out;
     for (const FieldInfo& field : fields) {
         for (int i = 0; i < field.count; ++i) {
-            const auto element =
-                bytes.subspan(static_cast<std::size_t>(field.offset + i * field.width),
-                              static_cast<std::size_t>(field.width));
+            const auto element = elementBytes(bytes, field, i);
             const std::string label = elementName(field, i);
             if (field.kind == FieldInfo::Kind::slots) {
                 out += label + ":\n" + dumpRecord(element, fieldsOf<ObjectSlotRecord>());

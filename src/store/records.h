@@ -131,6 +131,14 @@ struct RecordInfo {
 /// All record types that files are made of, and the object slot that the scene contains.
 std::span<const RecordInfo> allRecords();
 
+/// The bytes of element `element`, counted from 0, of a field; `bytes` is the whole record.
+template <class Byte>
+std::span<Byte> elementBytes(std::span<Byte> bytes, const FieldInfo& field, int element) {
+    const auto width = static_cast<std::size_t>(field.width);
+    return bytes.subspan(
+        static_cast<std::size_t>(field.offset) + static_cast<std::size_t>(element) * width, width);
+}
+
 /// Fills `bytes`, a record of the given fields, with the values of a new record.
 void fillNewRecord(std::span<char> bytes, std::span<const FieldInfo> fields);
 

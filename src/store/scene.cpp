@@ -13,8 +13,7 @@ void forEachHeaderField(Bytes bytes, OnText onText, OnNumber onNumber) {
     std::size_t numbers = 0;
     for (const FieldInfo& field : fieldsOf<SceneRecord>()) {
         for (int i = 0; i < field.count; ++i) {
-            const auto at = bytes.subspan(static_cast<std::size_t>(field.offset + i * field.width),
-                                          static_cast<std::size_t>(field.width));
+            const auto at = elementBytes(bytes, field, i);
             if (field.kind == FieldInfo::Kind::text) {
                 onText(at, texts++);
             } else if (numbers < kHeaderInts) {

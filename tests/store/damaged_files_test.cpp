@@ -2,8 +2,8 @@
 /// opened, and what an edit does not touch is kept byte for byte.
 #include <gtest/gtest.h>
 
-#include "golden_records.h"
 #include "store/game_stores.h"
+#include "store/golden_records.h"
 #include "store/runtime_error.h"
 #include "store/scene_store.h"
 #include "store/security.h"

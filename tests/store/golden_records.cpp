@@ -1,4 +1,4 @@
-#include "golden_records.h"
+#include "store/golden_records.h"
 
 namespace quorvel::store::golden {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "golden_records.h"
+#include "store/golden_records.h"
 #include "store/runtime_error.h"
 #include "store/scene_store.h"
 #include "store/security.h"

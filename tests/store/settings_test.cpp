@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "golden_records.h"
+#include "store/golden_records.h"
 #include "support/file_bytes.h"
 #include "support/project_builder.h"
 #include "support/temp_folder.h"
