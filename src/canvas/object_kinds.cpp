@@ -4,6 +4,7 @@ namespace quorvel::canvas {
 namespace {
 
 using forms::DisplayMode;
+using store::ObjectType;
 
 /// Ambient, HotSpot and Goodie count their styles alike.
 DisplayMode modeOfStyle(std::int16_t style) {
@@ -32,40 +33,13 @@ DisplayMode modeOfReactor(std::int16_t style) {
 }  // namespace
 
 bool isQuickSpot(const store::ObjectSlot& slot) {
-    return typeOf(slot) == ObjectType::hotSpot &&
-           slot.SlotInt(hot_spot::kStyleField) != hot_spot::kImageSpot;
+    return store::typeOf(slot) == ObjectType::hotSpot &&
+           store::number(slot, store::HotSpot::QuickSpot) != 0;
 }
 
 QString tagOf(ObjectType type) {
-    switch (type) {
-        case ObjectType::free:
-            return {};
-        case ObjectType::ambient:
-            return QStringLiteral("Ambient");
-        case ObjectType::hotSpot:
-            return QStringLiteral("HotSpot");
-        case ObjectType::goodie:
-            return QStringLiteral("Goodie");
-        case ObjectType::switchObject:
-            return QStringLiteral("Switch");
-        case ObjectType::reactor:
-            return QStringLiteral("Reactor");
-        case ObjectType::responder:
-            return QStringLiteral("Responder");
-        case ObjectType::delay:
-            return QStringLiteral("Delay");
-        case ObjectType::multiTrigger:
-            return QStringLiteral("Multi-Trigger");
-        case ObjectType::conversation:
-            return QStringLiteral("Conversation");
-        case ObjectType::flagConjunction:
-            return QStringLiteral("Flag Conjunction");
-    }
-    return QStringLiteral(">>> Unknown <<<");
-}
-
-bool hasPicture(ObjectType type) {
-    return type >= ObjectType::ambient && type <= ObjectType::reactor;
+    const std::string_view name = store::typeName(type);
+    return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
 }
 
 QString symbolOf(ObjectType type) {
@@ -81,22 +55,23 @@ QString symbolOf(ObjectType type) {
         case ObjectType::flagConjunction:
             return QStringLiteral("flag-conjunction");
         default:
-            return hasPicture(type) ? QStringLiteral("new-object")
-                                    : QStringLiteral("unknown-object");
+            return store::hasPicture(type) ? QStringLiteral("new-object")
+                                           : QStringLiteral("unknown-object");
     }
 }
 
 DisplayMode displayModeOf(const store::ObjectSlot& slot) {
-    switch (typeOf(slot)) {
+    switch (store::typeOf(slot)) {
         case ObjectType::ambient:
+            return modeOfStyle(store::number(slot, store::Ambient::Style));
         case ObjectType::goodie:
-            return modeOfStyle(slot.SlotInt(4));
+            return modeOfStyle(store::number(slot, store::Goodie::Style));
         case ObjectType::hotSpot:
-            return modeOfStyle(slot.SlotInt(5));
+            return modeOfStyle(store::number(slot, store::HotSpot::Style));
         case ObjectType::reactor:
-            return modeOfReactor(slot.SlotInt(4));
+            return modeOfReactor(store::number(slot, store::Reactor::Style));
         default:
-            // The number at this place in a Switch is a flag, not a style.
+            // A Switch has two positions and no style.
             return DisplayMode::loop;
     }
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "canvas/object_kinds.h"
 #include "canvas/scene_view.h"
@@ -67,8 +68,8 @@ void SceneView::putBack(int k, SceneElement& element) {
     }
     element.moveTo(SavedX[entry], SavedY[entry]);
     store::ObjectSlot& slot = scene_.slot(k);
-    slot.SlotInt(kLeftField) = SavedX[entry];
-    slot.SlotInt(kTopField) = SavedY[entry];
+    store::number(slot, store::kLeft) = SavedX[entry];
+    store::number(slot, store::kTop) = SavedY[entry];
 }
 
 void SceneView::putPositionsBack() {
@@ -82,10 +83,51 @@ void SceneView::putPositionsBack() {
     for (std::size_t n = 1; n <= kLinks; ++n) {
         links_[n]->moveTo(SavedX[kObjects + n], SavedY[kObjects + n]);
     }
-    setObjectAlert(CheckObjectPositions());
-    if (BordersOn) {
-        placeBorders();
+    followObjectAlert();
+    redrawBorders();
+}
+
+void SceneView::DropElement(SceneElement& element, int left, int top) {
+    constexpr int kLeast = std::numeric_limits<std::int16_t>::min();
+    constexpr int kMost = std::numeric_limits<std::int16_t>::max();
+    element.moveTo(static_cast<std::int16_t>(std::clamp(left, kLeast, kMost)),
+                   static_cast<std::int16_t>(std::clamp(top, kLeast, kMost)));
+    if (element.kind() == SceneElement::Kind::link) {
+        storeLinkPlace(static_cast<std::size_t>(element.index()));
+    } else {
+        store::ObjectSlot& slot = scene_.slot(element.index());
+        store::number(slot, store::kLeft) = element.place().left;
+        store::number(slot, store::kTop) = element.place().top;
     }
+    followObjectAlert();
+    redrawBorders();
+    say(statusOf(element));
+}
+
+void SceneView::followObjectAlert() {
+    setObjectAlert(CheckObjectPositions());
+}
+
+bool SceneView::isObjectOut(int k) const {
+    return isOutOfScene(*objects_[static_cast<std::size_t>(k)]);
+}
+
+Place SceneView::linkPlace(store::LinkSide side) const {
+    return links_[static_cast<std::size_t>(side)]->place();
+}
+
+void SceneView::setLinkPlace(store::LinkSide side, const Place& place) {
+    links_[static_cast<std::size_t>(side)]->setPlace(place);
+    redrawBorders();
+}
+
+void SceneView::storeLinkPlace(std::size_t n) {
+    store::EdgeLink& link = scene_.link(links_[n]->side());
+    const Place& place = links_[n]->place();
+    link.left = place.left;
+    link.top = place.top;
+    link.width = place.width;
+    link.height = place.height;
 }
 
 void SceneView::StoreLinkPlaces() {
@@ -93,12 +135,7 @@ void SceneView::StoreLinkPlaces() {
         return;
     }
     for (std::size_t n = 1; n <= kLinks; ++n) {
-        store::EdgeLink& link = scene_.link(links_[n]->side());
-        const Place& place = links_[n]->place();
-        link.left = place.left;
-        link.top = place.top;
-        link.width = place.width;
-        link.height = place.height;
+        storeLinkPlace(n);
     }
 }
 

@@ -171,6 +171,44 @@ void SceneView::placeBorders() {
     }
 }
 
+void SceneView::redrawBorders() {
+    if (BordersOn) {
+        placeBorders();
+    }
+}
+
+void SceneView::showLinkBorder(store::LinkSide side) {
+    const auto n = static_cast<std::size_t>(side);
+    linkBorders_[n]->surround(links_[n]->place());
+    linkBorders_[n]->show();
+}
+
+void SceneView::hideBorderOf(const SceneElement& element) {
+    const auto at = static_cast<std::size_t>(element.index());
+    Outline* border =
+        element.kind() == SceneElement::Kind::link ? linkBorders_.at(at) : borders_.at(at);
+    border->hide();
+}
+
+SceneElement& SceneView::objectElement(int k) const {
+    const auto i = static_cast<std::size_t>(k);
+    return quickSpots_.at(i)->isShown() ? *quickSpots_.at(i)
+                                        : static_cast<SceneElement&>(*objects_.at(i));
+}
+
+SceneElement& SceneView::linkElement(store::LinkSide side) const {
+    return *links_[static_cast<std::size_t>(side)];
+}
+
+std::vector<SceneElement*> SceneView::movableElements() const {
+    std::vector<SceneElement*> elements(links_.begin() + 1, links_.end());
+    for (std::size_t k = 1; k <= kObjects; ++k) {
+        elements.push_back(objects_[k]);
+        elements.push_back(quickSpots_[k]);
+    }
+    return elements;
+}
+
 void SceneView::setSceneAlert(bool on) {
     if (sceneAlert_ != on) {
         sceneAlert_ = on;

@@ -4,6 +4,7 @@
 #include <array>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include <QWidget>
 
@@ -61,6 +62,40 @@ class SceneView : public QWidget {
     /// Puts the links' places into the scene in memory; nothing while no scene is shown. To be
     /// called before every save.
     void StoreLinkPlaces();
+
+    /// Makes the elements of object `k`, 1 to 20, follow its slot: a fresh object appears, a freed
+    /// one leaves. The remembered positions do not change.
+    void ShowObject(int k);
+    /// Counts the objects anew, for the count and for what depends on it.
+    void UpdateObjectCount();
+
+    /// An object or a link has come to a place in canvas pixels, there is no snapping and no bound.
+    /// The place of an object goes into its slot, that of a link into its group in the scene;
+    /// alert and borders follow.
+    void DropElement(SceneElement& element, int left, int top);
+
+    /// The place of an edge link on the canvas. It reaches the scene in memory with the next save.
+    [[nodiscard]] Place linkPlace(store::LinkSide side) const;
+    void setLinkPlace(store::LinkSide side, const Place& place);
+    /// Shows the border of one link, be borders on or off.
+    void showLinkBorder(store::LinkSide side);
+    void hideBorderOf(const SceneElement& element);
+    /// Draws the borders anew when they are on.
+    void redrawBorders();
+
+    /// Raises or lowers the object alert by where the objects are now.
+    void followObjectAlert();
+
+    /// True when the picture of object `k` is out of the scene by more than half.
+    [[nodiscard]] bool isObjectOut(int k) const;
+    /// The element that shows object `k`: its picture, or its rectangle when it is a QuickSpot.
+    [[nodiscard]] SceneElement& objectElement(int k) const;
+    [[nodiscard]] SceneElement& linkElement(store::LinkSide side) const;
+    [[nodiscard]] SceneElement& imageElement() const { return *image_; }
+
+    /// The canvas itself, whose pixels all places count, and what can be moved on it.
+    [[nodiscard]] QWidget& canvas() { return *canvas_; }
+    [[nodiscard]] std::vector<SceneElement*> movableElements() const;
 
     [[nodiscard]] bool bordersOn() const { return BordersOn; }
     [[nodiscard]] bool animationsOn() const { return AnimationsOn; }
@@ -123,6 +158,7 @@ class SceneView : public QWidget {
     void setObjectAlert(bool on);
     void placeBorders();
     [[nodiscard]] bool isOutOfScene(const PictureElement& element) const;
+    void storeLinkPlace(std::size_t n);
     void rememberPositions();
     void putPositionsBack();
     void putBack(int k, SceneElement& element);

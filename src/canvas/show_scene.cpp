@@ -16,8 +16,8 @@ namespace {
 
 /// A QuickSpot's side out of its text, which is mended when the number is too low.
 std::int16_t mendedSide(std::string& text) {
-    if (store::val(text) < hot_spot::kLeastSide) {
-        text = std::to_string(hot_spot::kLeastSide);
+    if (store::val(text) < store::HotSpot::kLeastSide) {
+        text = std::to_string(store::HotSpot::kLeastSide);
     }
     constexpr int kMost = std::numeric_limits<std::int16_t>::max();
     return static_cast<std::int16_t>(std::min(store::valInt(text), kMost));
@@ -59,9 +59,7 @@ void SceneView::ShowSceneObjects() {
     if (PicturesToLoad == 0) {
         setLoading(false);
     }
-    if (BordersOn) {
-        placeBorders();
-    }
+    redrawBorders();
     RestoreObjectPositions(1);
     if (CheckObjectPositions()) {
         setObjectAlert(true);
@@ -102,16 +100,16 @@ void SceneView::clearObject(int k) {
 SceneView::ObjectFile SceneView::describeObject(int k) {
     const auto i = static_cast<std::size_t>(k);
     const store::ObjectSlot& slot = scene_.slot(k);
-    const ObjectType type = typeOf(slot);
+    const store::ObjectType type = store::typeOf(slot);
     objects_[i]->setTag(tagOf(type));
     objects_[i]->playhead().setMode(displayModeOf(slot));
-    if (type == ObjectType::hotSpot) {
+    if (type == store::ObjectType::hotSpot) {
         quickSpots_[i]->setTag(tagOf(type));
     }
-    if (!hasPicture(type) || slot.SlotStr(kPictureField).empty()) {
+    const std::string& name = store::word(slot, store::kPicture);
+    if (!store::hasPicture(type) || name.empty()) {
         return {};
     }
-    const std::string& name = slot.SlotStr(kPictureField);
     const auto found = store::findResource(project_.folder(), store::ResourceFolder::gfx, name);
     return {name, found.value_or(std::filesystem::path())};
 }
@@ -125,13 +123,15 @@ void SceneView::showObject(int k, const ObjectFile& file) {
         forms::PicturePtr picture = pictures_.load(file.file);
         object.setPicture(picture->ok() ? picture
                                         : pictures_.stock(QStringLiteral("file-not-found")));
-        countLoaded();
+        if (filling_) {
+            countLoaded();
+        }
     } else {
-        object.setPicture(pictures_.stock(file.name.empty() ? symbolOf(typeOf(slot))
+        object.setPicture(pictures_.stock(file.name.empty() ? symbolOf(store::typeOf(slot))
                                                             : QStringLiteral("file-not-found")));
     }
-    object.moveTo(slot.SlotInt(kLeftField), slot.SlotInt(kTopField));
-    quickSpots_[i]->moveTo(slot.SlotInt(kLeftField), slot.SlotInt(kTopField));
+    object.moveTo(store::number(slot, store::kLeft), store::number(slot, store::kTop));
+    quickSpots_[i]->moveTo(store::number(slot, store::kLeft), store::number(slot, store::kTop));
     if (isQuickSpot(slot)) {
         showQuickSpot(k);
         return;
@@ -144,10 +144,10 @@ void SceneView::showObject(int k, const ObjectFile& file) {
 
 void SceneView::showQuickSpot(int k) {
     store::ObjectSlot& slot = scene_.slot(k);
-    slot.SlotInt(hot_spot::kStyleField) = hot_spot::kQuickSpot;
+    store::number(slot, store::HotSpot::QuickSpot) = 1;
     SceneElement& spot = *quickSpots_[static_cast<std::size_t>(k)];
-    const std::int16_t height = mendedSide(slot.SlotStr(hot_spot::kHeightField));
-    const std::int16_t width = mendedSide(slot.SlotStr(hot_spot::kWidthField));
+    const std::int16_t height = mendedSide(store::word(slot, store::HotSpot::QuickHeight));
+    const std::int16_t width = mendedSide(store::word(slot, store::HotSpot::QuickWidth));
     spot.setPlace({spot.place().left, spot.place().top, width, height});
     spot.setShown(true);
 }
@@ -168,9 +168,20 @@ void SceneView::pictureLoaded(PictureElement& element) {
     if (AnimationsOn && element.isShown()) {
         element.playhead().play();
     }
-    if (BordersOn) {
-        placeBorders();
+    redrawBorders();
+}
+
+void SceneView::ShowObject(int k) {
+    clearObject(k);
+    if (isPresent(scene_.slot(k))) {
+        const ObjectFile file = describeObject(k);
+        showObject(k, file);
     }
+    redrawBorders();
+}
+
+void SceneView::UpdateObjectCount() {
+    countObjects();
 }
 
 void SceneView::countObjects() {

@@ -54,6 +54,7 @@ void Shell::loadMain() {
                                                     surroundings_.boxes, traps_);
     connect(keeper_.get(), &canvas::SceneKeeper::sceneAdded, &models_.scenes,
             &forms::RecordListModel::append);
+    loadActions();
     navigation_ = std::make_unique<Navigation>(
         Navigation::House{project_, *keeper_, surroundings_.boxes, main_->side(), main_->lists()});
     loader_ = std::make_unique<ProjectLoader>(
@@ -66,6 +67,18 @@ void Shell::loadMain() {
     });
     answerCommands();
     refreshCommands();
+}
+
+void Shell::loadActions() {
+    actions_ = std::make_unique<canvas::ObjectActions>(canvas::ObjectActions::House{
+        project_, scene_, main_->view(), *keeper_, surroundings_.boxes});
+    const SidePanel& side = main_->side();
+    connect(side.ObjAlert, &QPushButton::clicked, this, [this] { actions_->ObjAlert_Click(); });
+    connect(side.ScnAlert, &QPushButton::clicked, this, [this] { actions_->ScnAlert_Click(); });
+    connect(side.RestoreObjs, &QPushButton::clicked, this,
+            [this] { actions_->RestoreObjs_Click(); });
+    connect(keeper_.get(), &canvas::SceneKeeper::sceneShown, side.RestoreObjs,
+            [button = side.RestoreObjs] { button->setEnabled(true); });
 }
 
 void Shell::InitializeEditor() {

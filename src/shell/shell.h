@@ -10,6 +10,7 @@
 
 #include <QObject>
 
+#include "canvas/object_actions.h"
 #include "canvas/scene_keeper.h"
 #include "forms/pictures.h"
 #include "forms/record_lists.h"
@@ -65,6 +66,7 @@ class Shell : public QObject {
     [[nodiscard]] store::Scene& scene() { return scene_; }
     [[nodiscard]] EditorSettings& settings() { return settings_; }
     [[nodiscard]] Main& mainWindow() { return *main_; }
+    [[nodiscard]] canvas::ObjectActions& actions() { return *actions_; }
 
     QString InstallPath;         ///< with a separator at its end
     QString HelpFile;            ///< the first page of the help
@@ -72,6 +74,7 @@ class Shell : public QObject {
 
   private:
     void loadMain();
+    void loadActions();
     void answerCommands();
     void runCommand(Command command);
     void refreshCommands();
@@ -85,6 +88,7 @@ class Shell : public QObject {
     void RunTool(int number);
     void showSecurity();
     void showAddScene();
+    void insertObject();
 
     Surroundings surroundings_;
     EditorSettings settings_;
@@ -95,6 +99,7 @@ class Shell : public QObject {
     forms::ProjectListModels models_;
     std::unique_ptr<Main> main_;
     std::unique_ptr<canvas::SceneKeeper> keeper_;
+    std::unique_ptr<canvas::ObjectActions> actions_;
     std::unique_ptr<Navigation> navigation_;
     std::unique_ptr<ProjectLoader> loader_;
     std::map<Command, std::function<void()>> answers_;

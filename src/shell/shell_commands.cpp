@@ -14,6 +14,7 @@ void Shell::answerCommands() {
         {Command::exitProgram, [this] { ExitProgram(); }},
         {Command::projectSecurity, [this] { showSecurity(); }},
         {Command::addScene, [this] { showAddScene(); }},
+        {Command::insertObject, [this] { insertObject(); }},
         {Command::toggleAnimations, [this] { ToggleAnimations(!main_->view().animationsOn()); }},
         {Command::toggleBorders, [this] { ToggleBorders(!main_->view().bordersOn()); }},
     };
@@ -60,6 +61,12 @@ void Shell::showSecurity() {
 void Shell::showAddScene() {
     canvas::NewScenefrm window(*keeper_, nullptr, main_.get());
     window.exec();
+}
+
+void Shell::insertObject() {
+    actions_->InsertX = 0;
+    actions_->InsertY = 0;
+    actions_->showNewLink();
 }
 
 void Shell::RunTool(int number) {

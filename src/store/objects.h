@@ -42,6 +42,8 @@ struct WordField {
 inline constexpr NumberField kType{1};
 inline constexpr NumberField kLeft{2};  ///< canvas pixels
 inline constexpr NumberField kTop{3};   ///< canvas pixels
+/// File in resource/gfx, of the types that have a picture.
+inline constexpr WordField kPicture{1};
 
 // clang-format off
 struct Ambient {

@@ -1,0 +1,280 @@
+#include "canvas/object_actions.h"
+
+#include <utility>
+
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QMouseEvent>
+
+#include "canvas/insert_form.h"
+#include "canvas/object_kinds.h"
+#include "canvas/resize_form.h"
+
+namespace quorvel::canvas {
+
+using forms::Answer;
+using forms::Box;
+using store::ObjectType;
+
+namespace {
+
+/// The pop-up of a known type.
+PopupMenu menuOf(ObjectType type) {
+    constexpr std::array kMenus = {PopupMenu::ambient,      PopupMenu::hotSpot,
+                                   PopupMenu::goodie,       PopupMenu::switchObject,
+                                   PopupMenu::reactor,      PopupMenu::responder,
+                                   PopupMenu::delay,        PopupMenu::multiTrigger,
+                                   PopupMenu::conversation, PopupMenu::flagConjunction};
+    return kMenus.at(static_cast<std::size_t>(type));
+}
+
+}  // namespace
+
+ObjectActions::ObjectActions(const House& house)
+    : house_(house), dragging_(house.view), menus_(nullptr) {
+    connect(&menus_, &menus::chosen, this, &ObjectActions::answer);
+    for (SceneElement* element : house_.view.movableElements()) {
+        element->installEventFilter(this);
+        element->setFocusPolicy(Qt::TabFocus);
+    }
+    house_.view.imageElement().installEventFilter(this);
+}
+
+bool ObjectActions::eventFilter(QObject* watched, QEvent* event) {
+    auto* element = qobject_cast<SceneElement*>(watched);
+    if (element == nullptr || dragging_.isDragging() || house_.project.CurrentScene == 0) {
+        return false;
+    }
+    if (event->type() == QEvent::MouseButtonPress) {
+        const auto& mouse = static_cast<QMouseEvent&>(*event);
+        if (mouse.button() == Qt::RightButton) {
+            const QPoint screen = mouse.globalPosition().toPoint();
+            openMenu(*element, screen, house_.view.canvas().mapFromGlobal(screen));
+            return true;
+        }
+    }
+    if (event->type() == QEvent::ContextMenu) {
+        const auto& menu = static_cast<QContextMenuEvent&>(*event);
+        if (menu.reason() == QContextMenuEvent::Keyboard) {
+            const QPoint middle = element->rect().center();
+            openMenu(*element, element->mapToGlobal(middle), element->mapToParent(middle));
+        }
+        return true;
+    }
+    return false;
+}
+
+void ObjectActions::openMenu(SceneElement& element, QPoint screen, QPoint at) {
+    switch (element.kind()) {
+        case SceneElement::Kind::image:
+            openSceneMenu(screen, at);
+            break;
+        case SceneElement::Kind::link:
+            openLinkMenu(element.index(), screen);
+            break;
+        case SceneElement::Kind::object:
+        case SceneElement::Kind::quickSpot:
+            openObjectMenu(element.index(), screen);
+            break;
+    }
+}
+
+void ObjectActions::openObjectMenu(int k, QPoint screen) {
+    PopupObject = k;
+    const store::ObjectSlot& slot = house_.scene.slot(k);
+    const ObjectType type = store::typeOf(slot);
+    if (!store::isKnownType(type)) {
+        tellUnknownType();
+        return;
+    }
+    const PopupMenu menu = menuOf(type);
+    prepareObjectJumps(slot, menu);
+    menus_.setAvailable(menu, PopupAction::properties, editors_.contains(type));
+    menus_.menu(menu).popup(screen);
+}
+
+void ObjectActions::prepareObjectJumps(const store::ObjectSlot& slot, PopupMenu menu) {
+    using namespace store;
+    if (menu == PopupMenu::hotSpot) {
+        constexpr int kToMap = 2;
+        const bool toMap = number(slot, HotSpot::TargetKind) == kToMap;
+        prepareJump(menu, PopupAction::jump, toMap ? 0 : number(slot, HotSpot::TargetScene));
+    } else if (menu == PopupMenu::responder) {
+        prepareJump(menu, PopupAction::jump, number(slot, Responder::TargetScene));
+    } else if (menu == PopupMenu::multiTrigger) {
+        prepareJump(menu, PopupAction::jump, number(slot, MultiTrigger::TargetScene1));
+        prepareJump(menu, PopupAction::jumpSecond, number(slot, MultiTrigger::TargetScene2));
+        prepareJump(menu, PopupAction::jumpThird, number(slot, MultiTrigger::TargetScene3));
+    }
+}
+
+void ObjectActions::openLinkMenu(int n, QPoint screen) {
+    dragging_.CurrentLink = n;
+    PopupObject = n;
+    prepareJump(PopupMenu::link, PopupAction::jump,
+                house_.scene.link(static_cast<store::LinkSide>(n)).target);
+    menus_.setAvailable(PopupMenu::link, PopupAction::properties, linkEditor_ != nullptr);
+    menus_.menu(PopupMenu::link).popup(screen);
+}
+
+void ObjectActions::openSceneMenu(QPoint screen, QPoint at) {
+    InsertX = static_cast<std::int16_t>(at.x());
+    InsertY = static_cast<std::int16_t>(at.y());
+    prepareJump(PopupMenu::scene, PopupAction::jump,
+                house_.scene.header(store::HeaderInt::SceneCheckFlagTarget));
+    menus_.setAvailable(PopupMenu::scene, PopupAction::properties, sceneEditor_ != nullptr);
+    menus_.setAvailable(PopupMenu::scene, PopupAction::insertObject,
+                        house_.scene.objectCount() < store::kSlotCount);
+    menus_.menu(PopupMenu::scene).popup(screen);
+}
+
+QString ObjectActions::sceneText(int number) const {
+    if (number < 1 || number > house_.project.NumberOfScenes) {
+        return {};
+    }
+    const store::ListEntry& entry =
+        house_.project.lists.scenes[static_cast<std::size_t>(number - 1)];
+    return QString::fromStdString(store::listText(entry.number, entry.name));
+}
+
+void ObjectActions::prepareJump(PopupMenu menu, PopupAction jump, int target) {
+    jumps_[jump] = target;
+    menus_.prepareJump(menu, jump, sceneText(target));
+}
+
+void ObjectActions::tellUnknownType() {
+    house_.boxes.show(
+        {.text = QStringLiteral(
+             "This object type is unknown, and was apparently made with a newer version of "
+             "Quorvel.\n\nUnknown objects cannot be edited. Please upgrade to the latest version "
+             "of Quorvel."),
+         .title = QStringLiteral("Unknown Object Type!"),
+         .icon = Box::Icon::exclamation});
+}
+
+void ObjectActions::answer(PopupMenu menu, PopupAction entry) {
+    switch (entry) {
+        case PopupAction::properties:
+            if (menu == PopupMenu::link) {
+                linkEditor_();
+            } else if (menu == PopupMenu::scene) {
+                sceneEditor_();
+            } else {
+                ShowObjectProps(house_.scene.slot(PopupObject).SlotInt(store::kType.number));
+            }
+            break;
+        case PopupAction::remove:
+            RemoveObject(PopupObject);
+            break;
+        case PopupAction::jump:
+        case PopupAction::jumpSecond:
+        case PopupAction::jumpThird:
+            jumpTo(entry);
+            break;
+        case PopupAction::resizeLink:
+            showResize();
+            break;
+        case PopupAction::insertObject:
+            showNewLink();
+            break;
+        default:
+            break;
+    }
+}
+
+void ObjectActions::jumpTo(PopupAction entry) {
+    JumpTarget = jumps_[entry];
+    if (JumpTarget >= 1 && JumpTarget <= house_.project.NumberOfScenes) {
+        house_.keeper.GoToScene(JumpTarget);
+    }
+}
+
+void ObjectActions::registerEditor(ObjectType type, std::function<void()> editor) {
+    editors_[type] = std::move(editor);
+}
+
+void ObjectActions::ShowObjectProps(int type) {
+    const auto editor = editors_.find(static_cast<ObjectType>(type));
+    if (editor == editors_.end()) {
+        return;
+    }
+    CurObj = PopupObject;
+    editor->second();
+    CurObj = 0;
+}
+
+void ObjectActions::showNewLink() {
+    newlink window(house_.scene, house_.boxes, nullptr, house_.view.window());
+    if (window.exec() == QDialog::Accepted) {
+        InsertObject(window.chosenType, window.chosenIndex);
+        ShowObjectProps(static_cast<int>(window.chosenType));
+    }
+}
+
+void ObjectActions::InsertObject(ObjectType type, int index) {
+    store::ResetSlot(house_.scene.slot(index), type, InsertX, InsertY);
+    PopupObject = index;
+    house_.view.ShowObject(index);
+    house_.view.UpdateObjectCount();
+}
+
+void ObjectActions::RemoveObject(int index) {
+    if (house_.boxes.show({.text = QStringLiteral("Are you sure you want to remove this object?"),
+                           .title = QStringLiteral("Remove Object"),
+                           .buttons = Box::Buttons::yesNo}) != Answer::yes) {
+        return;
+    }
+    house_.scene.slot(index).SlotInt(store::kType.number) =
+        static_cast<std::int16_t>(ObjectType::free);
+    house_.view.ShowObject(index);
+    house_.view.UpdateObjectCount();
+    house_.view.followObjectAlert();
+}
+
+void ObjectActions::showResize() {
+    const auto side = static_cast<store::LinkSide>(dragging_.CurrentLink);
+    SceneView& view = house_.view;
+    ResizeD window(
+        {.side = side,
+         .place = [&view, side] { return view.linkPlace(side); },
+         .setPlace = [&view, side](const Place& place) { view.setLinkPlace(side, place); }},
+        house_.boxes, nullptr, view.window());
+    window.exec();
+}
+
+void ObjectActions::ObjAlert_Click() {
+    SceneView& view = house_.view;
+    for (int k = 1; k <= store::kSlotCount; ++k) {
+        if (!view.isObjectOut(k)) {
+            continue;
+        }
+        const QString text =
+            QStringLiteral("Object Index #") + signedText(k) +
+            QStringLiteral(
+                " is out of the scene by more than 50%.\n\nIf transparent, it may be "
+                "impossible to access it.\n\nWould you like to move it?");
+        if (house_.boxes.show({.text = text,
+                               .title = QStringLiteral("Object Position Alert"),
+                               .icon = Box::Icon::exclamation,
+                               .buttons = Box::Buttons::yesNo}) == Answer::yes) {
+            view.DropElement(view.objectElement(k), 0, 0);
+        }
+    }
+    view.followObjectAlert();
+}
+
+void ObjectActions::ScnAlert_Click() {
+    house_.boxes.show(sceneSizeAlert(house_.view.sceneImageSize()));
+}
+
+void ObjectActions::RestoreObjs_Click() {
+    if (house_.boxes.show({.text = QStringLiteral("Restore the positions of all objects as they "
+                                                  "were when this scene was loaded?"),
+                           .title = QStringLiteral("Restore Object Positions"),
+                           .icon = Box::Icon::question,
+                           .buttons = Box::Buttons::yesNo}) == Answer::yes) {
+        house_.view.RestoreObjectPositions(2);
+    }
+}
+
+}  // namespace quorvel::canvas

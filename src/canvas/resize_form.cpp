@@ -1,0 +1,246 @@
+#include "canvas/resize_form.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpressionValidator>
+#include <QVBoxLayout>
+
+#include "store/numbers.h"
+
+namespace quorvel::canvas {
+namespace {
+
+constexpr int kLeastSide = 5;
+constexpr int kCustom = 3;
+constexpr int kRestore = 4;
+constexpr std::array<std::int16_t, 3> kPresets = {20, 60, 100};
+constexpr std::array kCaptions = {
+    "Preset 1 - Small     (20h X 20w)", "Preset 2 - Medium (60h X 60w)",
+    "Preset 3 - Large    (100h X 100w)", "Custom size", "Restore default size and position"};
+constexpr std::array kSizeCaptions = {"Current Width >", "Current Height >", "Proposed Width >",
+                                      "Proposed Height >"};
+
+QString directionName(store::LinkSide side) {
+    switch (side) {
+        case store::LinkSide::left:
+            return QStringLiteral("Left");
+        case store::LinkSide::up:
+            return QStringLiteral("Up");
+        case store::LinkSide::right:
+            return QStringLiteral("Right");
+        case store::LinkSide::down:
+            break;
+    }
+    return QStringLiteral("Down");
+}
+
+/// Where "Restore default size and position" puts a link. The lower one goes to another place than
+/// in a new scene: authors' scenes rely on it.
+Place restoredPlace(store::LinkSide side) {
+    const store::EdgeLink link = store::defaultLink(side);
+    if (side == store::LinkSide::down) {
+        return {.left = 442, .top = 32, .width = link.width, .height = link.height};
+    }
+    return {.left = link.left, .top = link.top, .width = link.width, .height = link.height};
+}
+
+std::int16_t pixels(const QString& text) {
+    constexpr int kMost = std::numeric_limits<std::int16_t>::max();
+    return static_cast<std::int16_t>(std::clamp(store::valInt(text.toStdString()), 0, kMost));
+}
+
+}  // namespace
+
+ResizeD::ResizeD(Link link, forms::Boxes& boxes, const std::function<void()>& help, QWidget* parent)
+    : Form(QStringLiteral("ResizeD"), QStringLiteral("Resize \"Link\" Object"), parent),
+      link_(std::move(link)),
+      boxes_(boxes) {
+    build(help);
+    showSizes();
+}
+
+void ResizeD::build(const std::function<void()>& help) {
+    auto* caption = new QLabel(directionName(link_.side), this);
+    caption->setObjectName(QStringLiteral("Label1"));
+    QFont bold = caption->font();
+    bold.setBold(true);
+    caption->setFont(bold);
+    auto* index = new QLabel(QString::number(static_cast<int>(link_.side)), this);
+    index->setObjectName(QStringLiteral("HSInd"));
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(new QLabel(QStringLiteral("Link Index #"), this));
+    heading->addWidget(index);
+    heading->addSpacing(forms::kFormSpacing);
+    heading->addWidget(caption, 1);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    applyButton_ = addButton(buttons, QStringLiteral("Command1"), QStringLiteral("Apply"));
+    QPushButton* cancel = addButton(buttons, QStringLiteral("Command2"), QStringLiteral("Cancel"));
+    QPushButton* ok = addButton(buttons, QStringLiteral("Command3"), QStringLiteral("OK"));
+    QPushButton* helpButton =
+        addButton(buttons, QStringLiteral("Command4"), QStringLiteral("Help"));
+    ok->setDefault(true);
+    for (QPushButton* button : {applyButton_, cancel, helpButton}) {
+        button->setAutoDefault(false);
+    }
+    applyButton_->setEnabled(false);
+    helpButton->setEnabled(help != nullptr);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(forms::kFormMargin, forms::kFormMargin, forms::kFormMargin,
+                               forms::kFormMargin);
+    column->setSpacing(forms::kFormSpacing);
+    column->addLayout(heading);
+    column->addWidget(buildOptions());
+    column->addWidget(buildSizes());
+    column->addLayout(buttons);
+
+    connect(applyButton_, &QPushButton::clicked, this, &ResizeD::apply);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(ok, &QPushButton::clicked, this, &ResizeD::Command3_Click);
+    if (help) {
+        connect(helpButton, &QPushButton::clicked, this, help);
+    }
+}
+
+QWidget* ResizeD::buildOptions() {
+    auto* frame = new QGroupBox(this);
+    frame->setObjectName(QStringLiteral("Frame1"));
+    auto* rows = new QVBoxLayout(frame);
+    for (std::size_t i = 0; i < options_.size(); ++i) {
+        const int at = static_cast<int>(i);
+        options_[i] = new QRadioButton(QString::fromLatin1(kCaptions[i]), frame);
+        options_[i]->setObjectName(forms::elementName(QStringLiteral("Option1"), at));
+        connect(options_[i], &QRadioButton::clicked, this, [this, at] { Option1_Click(at); });
+        rows->addWidget(options_[i]);
+        if (at != kCustom) {
+            continue;
+        }
+        auto* row = new QHBoxLayout;
+        row->addSpacing(24);
+        constexpr std::array kNames = {"Custom Height", "Custom Width"};
+        constexpr std::array kUnits = {"h", "w"};
+        for (std::size_t side = 0; side < custom_.size(); ++side) {
+            custom_[side] = new QLineEdit(frame);
+            custom_[side]->setObjectName(
+                forms::elementName(QStringLiteral("Text1"), static_cast<int>(side)));
+            custom_[side]->setToolTip(QString::fromLatin1(kNames[side]));
+            custom_[side]->setAccessibleName(QString::fromLatin1(kNames[side]));
+            custom_[side]->setMaximumWidth(70);
+            custom_[side]->setValidator(new QRegularExpressionValidator(
+                QRegularExpression(QStringLiteral("[0-9]*")), custom_[side]));
+            connect(custom_[side], &QLineEdit::textEdited, this, [this] { Text1_Change(); });
+            row->addWidget(custom_[side]);
+            row->addWidget(new QLabel(QString::fromLatin1(kUnits[side]), frame));
+            if (side == 0) {
+                auto* by = new QLabel(QStringLiteral("X"), frame);
+                by->setObjectName(QStringLiteral("Label5"));
+                row->addWidget(by);
+            }
+        }
+        row->addStretch();
+        rows->addLayout(row);
+    }
+    restoreIt_ = new QLabel(QStringLiteral("* RESTORE POSITION *"), frame);
+    restoreIt_->setObjectName(QStringLiteral("RestoreIt"));
+    QSizePolicy keepsRoom = restoreIt_->sizePolicy();
+    keepsRoom.setRetainSizeWhenHidden(true);
+    restoreIt_->setSizePolicy(keepsRoom);
+    restoreIt_->hide();
+    rows->addWidget(restoreIt_, 0, Qt::AlignHCenter);
+    return frame;
+}
+
+QWidget* ResizeD::buildSizes() {
+    auto* frame = new QWidget(this);
+    auto* grid = new QGridLayout(frame);
+    grid->setContentsMargins(0, 0, 0, 0);
+    constexpr std::array kNames = {"Label4(0)", "Label4(1)", "Label6(0)", "Label6(1)"};
+    for (std::size_t i = 0; i < sizes_.size(); ++i) {
+        const int row = static_cast<int>(i % 2);
+        const int column = static_cast<int>(i / 2) * 2;
+        grid->addWidget(new QLabel(QString::fromLatin1(kSizeCaptions[i]), frame), row, column);
+        sizes_[i] = new QLabel(frame);
+        sizes_[i]->setObjectName(QString::fromLatin1(kNames[i]));
+        grid->addWidget(sizes_[i], row, column + 1);
+    }
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(3, 1);
+    return frame;
+}
+
+int ResizeD::chosen() const {
+    for (std::size_t i = 0; i < options_.size(); ++i) {
+        if (options_[i]->isChecked()) {
+            return static_cast<int>(i);
+        }
+    }
+    return -1;
+}
+
+Place ResizeD::proposed() const {
+    Place place = link_.place();
+    const int option = chosen();
+    if (option >= 0 && option < kCustom) {
+        place.height = place.width = kPresets[static_cast<std::size_t>(option)];
+    } else if (option == kCustom) {
+        place.height = pixels(custom_[0]->text());
+        place.width = pixels(custom_[1]->text());
+    } else if (option == kRestore) {
+        place = restoredPlace(link_.side);
+    }
+    return place;
+}
+
+void ResizeD::showSizes() {
+    const Place current = link_.place();
+    const Place next = proposed();
+    const std::array numbers = {current.width, current.height, next.width, next.height};
+    for (std::size_t i = 0; i < sizes_.size(); ++i) {
+        sizes_[i]->setText(QString::number(numbers[i]));
+    }
+    restoreIt_->setVisible(chosen() == kRestore);
+}
+
+void ResizeD::Option1_Click(int index) {
+    if (index == kCustom) {
+        custom_[0]->setFocus();
+    }
+    applyButton_->setEnabled(true);
+    showSizes();
+}
+
+void ResizeD::Text1_Change() {
+    options_[kCustom]->setChecked(true);
+    applyButton_->setEnabled(true);
+    showSizes();
+}
+
+bool ResizeD::apply() {
+    const Place place = proposed();
+    if (chosen() == kCustom && (place.height < kLeastSide || place.width < kLeastSide)) {
+        boxes_.tell(QStringLiteral("Custom size is too small!  Minimum size is 5h X 5w."));
+        return false;
+    }
+    link_.setPlace(place);
+    applyButton_->setEnabled(false);
+    showSizes();
+    return true;
+}
+
+void ResizeD::Command3_Click() {
+    if (!applyButton_->isEnabled() || apply()) {
+        accept();
+    }
+}
+
+}  // namespace quorvel::canvas
