@@ -6,8 +6,18 @@
 namespace quorvel::sample {
 namespace {
 
-using enum ObjectType;
+using Type = store::ObjectType;
+using store::Ambient;
+using store::Conversation;
+using store::Delay;
+using store::FlagConjunction;
+using store::Goodie;
+using store::HotSpot;
 using store::LinkSide;
+using store::MultiTrigger;
+using store::Reactor;
+using store::Responder;
+using store::Switch;
 
 int number(Item item) {
     return static_cast<int>(item);
@@ -18,22 +28,22 @@ store::Scene cove(const SceneArt& art) {
     scene.soundtrack("KeepWaltz.mid", -1100);
     scene.sound("Waves.wav", -500, 0);
     scene.link(LinkSide::right, kHarbour);
-    scene.insert(1, ambient, "MoonPath.gif");
-    scene.insert(2, ambient, "Surf.gif");
-    scene.insert(3, goodie, "Key.gif")
-        .number(Goodie::item, number(Item::ironKey))
-        .visibleWhen(Goodie::visibility, {kKeyTaken, 0})
-        .set(Goodie::set, {kKeyTaken, 1})
-        .text(Goodie::success, "Chime.wav");
-    scene.insert(4, ambient, "Pool.gif");
-    scene.insert(5, reactor, "Crab.gif")
-        .number(Reactor::style, Reactor::pingPong)
-        .text(Reactor::sound, "Click.wav");
-    scene.insert(6, responder, 12, 12)
-        .test(Responder::test, {kKeyTaken, 1})
-        .number(Responder::onlyHere, 1)
-        .number(Responder::mapOn, 1)
-        .number(Responder::location, kMapLighthouse);
+    scene.insert(1, Type::ambient, "MoonPath.gif");
+    scene.insert(2, Type::ambient, "Surf.gif");
+    scene.insert(3, Type::goodie, "Key.gif")
+        .number(Goodie::GivenItem, number(Item::ironKey))
+        .visibleWhen(Goodie::Visibility, {kKeyTaken, 0})
+        .set(Goodie::SetFlag, {kKeyTaken, 1})
+        .text(Goodie::SuccessMedia, "Chime.wav");
+    scene.insert(4, Type::ambient, "Pool.gif");
+    scene.insert(5, Type::reactor, "Crab.gif")
+        .number(Reactor::Style, kPingPong)
+        .text(Reactor::Sound, "Click.wav");
+    scene.insert(6, Type::responder, 12, 12)
+        .test(Responder::TestFlag, {kKeyTaken, 1})
+        .number(Responder::OnlyInScene, 1)
+        .number(Responder::AddLocationOn, 1)
+        .number(Responder::AddLocation, kMapLighthouse);
     return scene.scene();
 }
 
@@ -44,19 +54,19 @@ store::Scene cliff(const SceneArt& art) {
     scene.link(LinkSide::left, kHarbour);
     scene.link(LinkSide::up, kLighthouse);
     scene.setFlagOnEnter({kWalkedCliff, 1});
-    scene.insert(1, ambient, "WindGrass.gif").number(Ambient::style, Ambient::looping);
-    scene.insert(2, ambient, "Fireflies.gif");
-    scene.insert(3, reactor, "CliffGulls.gif")
-        .text(Reactor::sound, "Gull.wav")
-        .number(Reactor::volume, -500);
+    scene.insert(1, Type::ambient, "WindGrass.gif").number(Ambient::Style, kLooping);
+    scene.insert(2, Type::ambient, "Fireflies.gif");
+    scene.insert(3, Type::reactor, "CliffGulls.gif")
+        .text(Reactor::Sound, "Gull.wav")
+        .number(Reactor::SoundVolume, -500);
     scene.insertQuickSpot(4, {560, 8, 100, 168})
-        .number(HotSpot::pointer, up)
-        .number(HotSpot::scene, kLighthouse)
-        .text(HotSpot::success, "Click.wav");
-    scene.insert(5, responder, 12, 12)
-        .test(Responder::test, {kWalkedCliff, 1})
-        .number(Responder::mapOn, 1)
-        .number(Responder::location, kMapCliff);
+        .number(HotSpot::Pointer, kPointerUp)
+        .number(HotSpot::TargetScene, kLighthouse)
+        .text(HotSpot::SuccessSound, "Click.wav");
+    scene.insert(5, Type::responder, 12, 12)
+        .test(Responder::TestFlag, {kWalkedCliff, 1})
+        .number(Responder::AddLocationOn, 1)
+        .number(Responder::AddLocation, kMapCliff);
     return scene.scene();
 }
 
@@ -65,27 +75,27 @@ store::Scene lighthouse(const SceneArt& art) {
     scene.soundtrack("KeepWaltz.mid", -1100);
     scene.sound("Waves.wav", -700, -900);
     scene.link(LinkSide::down, kCliff);
-    scene.insert(1, ambient, "Chimney.gif");
-    scene.insert(2, ambient, "Spray.gif")
-        .text(Ambient::sound, "Waves.wav")
-        .number(Ambient::pan, -2500);
-    scene.insert(3, ambient, "Vane.gif").number(Ambient::style, Ambient::pingPong);
+    scene.insert(1, Type::ambient, "Chimney.gif");
+    scene.insert(2, Type::ambient, "Spray.gif")
+        .text(Ambient::Sound, "Waves.wav")
+        .number(Ambient::SoundPan, -2500);
+    scene.insert(3, Type::ambient, "Vane.gif").number(Ambient::Style, kPingPong);
     scene.insertQuickSpot(4, {360, 288, 74, 98})
-        .number(HotSpot::pointer, exitDoor)
-        .number(HotSpot::needsItem, 1)
-        .number(HotSpot::item, number(Item::ironKey))
-        .number(HotSpot::keepsItem, 1)
-        .number(HotSpot::scene, kStair)
-        .number(HotSpot::setOn, 1)
-        .set(HotSpot::set, {kDoorOpen, 1})
-        .text(HotSpot::success, "Creak.wav")
-        .text(HotSpot::failure, "Wrong.wav");
-    scene.insert(5, ambient, "DoorLamp.gif");
-    scene.insert(6, multiTrigger, 12, 12)
-        .number(MultiTrigger::onlyHere, 1)
-        .test(MultiTrigger::first, {kDoorOpen, 1})
-        .number(MultiTrigger::first + MultiTrigger::setOn, 1)
-        .set(MultiTrigger::first + MultiTrigger::set, {kScore, 40});
+        .number(HotSpot::Pointer, kPointerExit)
+        .number(HotSpot::NeedsItem, 1)
+        .number(HotSpot::NeededItem, number(Item::ironKey))
+        .number(HotSpot::KeepsItem, 1)
+        .number(HotSpot::TargetScene, kStair)
+        .number(HotSpot::SetFlagOn, 1)
+        .set(HotSpot::SetFlag, {kDoorOpen, 1})
+        .text(HotSpot::SuccessSound, "Creak.wav")
+        .text(HotSpot::FailureSound, "Wrong.wav");
+    scene.insert(5, Type::ambient, "DoorLamp.gif");
+    scene.insert(6, Type::multiTrigger, 12, 12)
+        .number(MultiTrigger::OnlyInScene, 1)
+        .test(MultiTrigger::TestFlag1, {kDoorOpen, 1})
+        .number(MultiTrigger::SetFlagOn1, 1)
+        .set(MultiTrigger::SetFlag1, {kScore, 40});
     return scene.scene();
 }
 
@@ -95,14 +105,14 @@ store::Scene stair(const SceneArt& art) {
     scene.sound("Wind.wav", -1600, 0);
     scene.link(LinkSide::down, kLighthouse);
     scene.link(LinkSide::up, kLampRoom);
-    scene.insert(1, ambient, "StairDust.gif");
-    scene.insert(2, reactor, "Spider.gif")
-        .number(Reactor::style, Reactor::pingPong)
-        .text(Reactor::sound, "Click.wav");
-    scene.insert(3, ambient, "WallLamp.gif");
+    scene.insert(1, Type::ambient, "StairDust.gif");
+    scene.insert(2, Type::reactor, "Spider.gif")
+        .number(Reactor::Style, kPingPong)
+        .text(Reactor::Sound, "Click.wav");
+    scene.insert(3, Type::ambient, "WallLamp.gif");
     scene.insertQuickSpot(4, {352, 140, 80, 74})
-        .number(HotSpot::pointer, up)
-        .number(HotSpot::scene, kLampRoom);
+        .number(HotSpot::Pointer, kPointerUp)
+        .number(HotSpot::TargetScene, kLampRoom);
     return scene.scene();
 }
 
@@ -111,43 +121,43 @@ store::Scene lampRoom(const SceneArt& art) {
     scene.soundtrack("KeepWaltz.mid", -900);
     scene.sound("Wind.wav", -1200, 0);
     scene.link(LinkSide::down, kStair);
-    scene.insert(1, ambient, "LensShine.gif");
-    scene.insert(2, ambient, "Beacon.gif")
-        .number(Ambient::style, Ambient::oneShot)
-        .visibleWhen(Ambient::visibility, {kBeaconLit, 1});
+    scene.insert(1, Type::ambient, "LensShine.gif");
+    scene.insert(2, Type::ambient, "Beacon.gif")
+        .number(Ambient::Style, kOneShot)
+        .visibleWhen(Ambient::Visibility, {kBeaconLit, 1});
     scene.insertQuickSpot(3, {262, 84, 176, 250})
-        .number(HotSpot::needsItem, 1)
-        .number(HotSpot::item, number(Item::litLamp))
-        .visibleWhen(HotSpot::visibility, {kLampSet, 0})
-        .number(HotSpot::setOn, 1)
-        .set(HotSpot::set, {kLampSet, 1})
-        .text(HotSpot::success, "Match.wav")
-        .text(HotSpot::failure, "Wrong.wav");
-    scene.insert(4, switcher, "Lever.gif")
-        .number(Switcher::flag, kLeverPulled)
-        .text(Switcher::soundA, "Clank.wav")
-        .text(Switcher::soundB, "Clank.wav");
-    scene.insert(5, ambient, "LampMoth.gif").number(Ambient::style, Ambient::looping);
+        .number(HotSpot::NeedsItem, 1)
+        .number(HotSpot::NeededItem, number(Item::litLamp))
+        .visibleWhen(HotSpot::Visibility, {kLampSet, 0})
+        .number(HotSpot::SetFlagOn, 1)
+        .set(HotSpot::SetFlag, {kLampSet, 1})
+        .text(HotSpot::SuccessSound, "Match.wav")
+        .text(HotSpot::FailureSound, "Wrong.wav");
+    scene.insert(4, Type::switchObject, "Lever.gif")
+        .number(Switch::Flag, kLeverPulled)
+        .text(Switch::SoundA, "Clank.wav")
+        .text(Switch::SoundB, "Clank.wav");
+    scene.insert(5, Type::ambient, "LampMoth.gif").number(Ambient::Style, kLooping);
     // Lamp and lever together light the beacon; the lens needs a moment to turn.
-    scene.insert(6, flagConjunction, 12, 412)
-        .number(5, 1)
-        .test(6, {kLampSet, 1})
-        .number(9, 1)
-        .test(10, {kLeverPulled, 1})
-        .text(FlagConjunction::flag, std::to_string(kBeaconLit))
-        .text(FlagConjunction::value, "1")
-        .text(FlagConjunction::add, "0");
-    scene.insert(7, delay, 640, 60)
-        .test(Delay::test, {kBeaconLit, 1})
-        .number(Delay::seconds, 4)
-        .set(Delay::set, {kBeaconLit, 2})
-        .number(Delay::waitPointer, 1);
-    scene.insert(8, multiTrigger, 640, 412)
-        .number(MultiTrigger::onlyHere, 1)
-        .test(MultiTrigger::first, {kBeaconLit, 2})
-        .number(MultiTrigger::first + MultiTrigger::setOn, 1)
-        .set(MultiTrigger::first + MultiTrigger::set, {kScore, kMaxScore})
-        .number(MultiTrigger::first + MultiTrigger::scene, kBoatsHome);
+    scene.insert(6, Type::flagConjunction, 12, 412)
+        .number(FlagConjunction::SelectedA, 1)
+        .test(FlagConjunction::TestFlagA, {kLampSet, 1})
+        .number(FlagConjunction::SelectedB, 1)
+        .test(FlagConjunction::TestFlagB, {kLeverPulled, 1})
+        .text(FlagConjunction::SetFlag, std::to_string(kBeaconLit))
+        .text(FlagConjunction::SetValue, "1")
+        .text(FlagConjunction::SetAdd, "0");
+    scene.insert(7, Type::delay, 640, 60)
+        .test(Delay::TestFlag, {kBeaconLit, 1})
+        .number(Delay::Seconds, 4)
+        .set(Delay::SetFlag, {kBeaconLit, 2})
+        .number(Delay::ForceWait, 1);
+    scene.insert(8, Type::multiTrigger, 640, 412)
+        .number(MultiTrigger::OnlyInScene, 1)
+        .test(MultiTrigger::TestFlag1, {kBeaconLit, 2})
+        .number(MultiTrigger::SetFlagOn1, 1)
+        .set(MultiTrigger::SetFlag1, {kScore, kMaxScore})
+        .number(MultiTrigger::TargetScene1, kBoatsHome);
     return scene.scene();
 }
 
@@ -156,14 +166,14 @@ store::Scene boatsHome(const SceneArt& art) {
     scene.soundtrack("KeepWaltz.mid", 0);
     scene.sound("Waves.wav", -1100, 0);
     scene.setFlagOnEnter({kBeaconLit, 1});
-    scene.insert(1, ambient, "Ripples.gif");
-    scene.insert(2, ambient, "Lanterns.gif").number(Ambient::style, Ambient::pingPong);
-    scene.insert(3, reactor, "EndCat.gif")
-        .number(Reactor::style, Reactor::pingPong)
-        .text(Reactor::sound, "Purr.wav");
+    scene.insert(1, Type::ambient, "Ripples.gif");
+    scene.insert(2, Type::ambient, "Lanterns.gif").number(Ambient::Style, kPingPong);
+    scene.insert(3, Type::reactor, "EndCat.gif")
+        .number(Reactor::Style, kPingPong)
+        .text(Reactor::Sound, "Purr.wav");
     scene.insertQuickSpot(4, {470, 40, 100, 146})
-        .text(HotSpot::success, "Bell.wav")
-        .number(HotSpot::linkKind, HotSpot::toMap);
+        .text(HotSpot::SuccessSound, "Bell.wav")
+        .number(HotSpot::TargetKind, kToMap);
     return scene.scene();
 }
 

@@ -10,62 +10,33 @@ std::int16_t small(int value) {
     return static_cast<std::int16_t>(value);
 }
 
-struct Default {
-    int field;
-    int value;
-};
-
-/// What a newly inserted object holds where that is not 0.
-std::vector<Default> insertionDefaults(ObjectType type) {
-    switch (type) {
-        case ObjectType::ambient:
-            return {{4, 1}, {5, 1}, {8, 1}, {9, 1}, {13, 1}};
-        case ObjectType::hotSpot:
-            return {{4, 10}, {5, 1}, {15, 1}, {17, 1}, {18, 1}, {22, 1}, {28, 15}};
-        case ObjectType::goodie:
-            return {{4, 1}, {15, 2}, {16, 1}, {19, 1}, {20, 1}, {25, 15}};
-        case ObjectType::switcher:
-            return {{4, 1}, {8, 1}, {16, 1}, {17, 1}, {21, 15}};
-        case ObjectType::reactor:
-            return {{4, 1}, {5, 10000}, {8, 1}, {9, 1}, {13, 1}};
-        case ObjectType::responder:
-            return {{4, 1}, {5, 1}, {17, 1}};
-        case ObjectType::delay:
-            return {{4, 1}, {5, 1}, {9, 1}};
-        case ObjectType::multiTrigger:
-            return {{5, 1}, {9, 1}, {13, 1}, {17, 1}, {21, 1}, {25, 1}};
-        case ObjectType::conversation:
-            return {{5, 1}, {6, 1}, {9, 4}};
-        case ObjectType::flagConjunction:
-            return {{6, 1}, {10, 1}, {14, 1}, {18, 1}, {22, 1}, {26, 1}};
-    }
-    return {};
-}
-
 }  // namespace
 
-ObjectRef& ObjectRef::number(int field, int value) {
-    slot_.SlotInt(field) = small(value);
+ObjectRef& ObjectRef::number(store::NumberField field, int value) {
+    store::number(slot_, field) = small(value);
     return *this;
 }
 
-ObjectRef& ObjectRef::text(int field, const std::string& value) {
-    slot_.SlotStr(field) = value;
+ObjectRef& ObjectRef::text(store::WordField field, const std::string& value) {
+    store::word(slot_, field) = value;
     return *this;
 }
 
-ObjectRef& ObjectRef::test(int field, const FlagValue& value) {
+ObjectRef& ObjectRef::test(store::NumberField field, const FlagValue& value) {
     return number(field, value.flag)
-        .number(field + 1, static_cast<int>(value.compare))
-        .number(field + 2, value.value);
+        .number({field.number + 1}, static_cast<int>(value.compare))
+        .number({field.number + 2}, value.value);
 }
 
-ObjectRef& ObjectRef::set(int field, const FlagValue& value) {
-    return number(field, value.flag).number(field + 1, value.value).number(field + 2, value.add);
+ObjectRef& ObjectRef::set(store::NumberField field, const FlagValue& value) {
+    return number(field, value.flag)
+        .number({field.number + 1}, value.value)
+        .number({field.number + 2}, value.add ? 1 : 0);
 }
 
-ObjectRef& ObjectRef::visibleWhen(int visibilityField, const FlagValue& value) {
-    return number(visibilityField, when).test(visibilityField + 1, value);
+ObjectRef& ObjectRef::visibleWhen(store::NumberField visibility, const FlagValue& value) {
+    constexpr int onlyWhen = 2;
+    return number(visibility, onlyWhen).test({visibility.number + 1}, value);
 }
 
 SceneBuilder::SceneBuilder(const std::string& name, const SceneArt& art) : art_(art) {
@@ -74,39 +45,38 @@ SceneBuilder::SceneBuilder(const std::string& name, const SceneArt& art) : art_(
     scene_.header(store::HeaderString::SceneImage) = art.file;
 }
 
-ObjectRef SceneBuilder::insert(int index, ObjectType type, int x, int y) {
+ObjectRef SceneBuilder::insert(int index, store::ObjectType type, int x, int y) {
     store::ObjectSlot& slot = scene_.slot(index);
-    if (slot.SlotInt(1) != -1) {
+    if (store::typeOf(slot) != store::ObjectType::free) {
         throw std::logic_error(art_.file + ": object " + std::to_string(index) + " twice");
     }
-    slot.SlotInt(1) = small(static_cast<int>(type));
-    slot.SlotInt(2) = small(x);
-    slot.SlotInt(3) = small(y);
-    for (const auto& [field, value] : insertionDefaults(type)) {
-        slot.SlotInt(field) = small(value);
+    store::ResetSlot(slot, type, small(x), small(y));
+    ObjectRef object(slot);
+    // Two values as the editors leave them once they have saved the object.
+    if (type == store::ObjectType::reactor) {
+        object.number(store::Reactor::Visibility, 1);
+    } else if (type == store::ObjectType::hotSpot) {
+        object.text(store::HotSpot::Group, "0");
     }
-    if (type == ObjectType::flagConjunction) {
-        slot.SlotStr(FlagConjunction::flag) = "1";
-    }
-    return ObjectRef(slot);
+    return object;
 }
 
-ObjectRef SceneBuilder::insert(int index, ObjectType type, const std::string& sprite) {
+ObjectRef SceneBuilder::insert(int index, store::ObjectType type, const std::string& sprite) {
     const auto found = std::ranges::find(art_.sprites, sprite, &Sprite::file);
     if (found == art_.sprites.end()) {
         throw std::logic_error(art_.file + " has no " + sprite);
     }
     ObjectRef object = insert(index, type, found->box.x(), found->box.y());
-    object.text(1, sprite);
+    object.text(store::Ambient::Image, sprite);  // the same field in all types with a picture
     return object;
 }
 
 ObjectRef SceneBuilder::insertQuickSpot(int index, const QRect& area) {
-    ObjectRef object = insert(index, ObjectType::hotSpot, area.x(), area.y());
-    object.number(HotSpot::style, HotSpot::quickSpot)
-        .text(HotSpot::height, std::to_string(area.height()))
-        .text(HotSpot::width, std::to_string(area.width()))
-        .text(HotSpot::group, "0");
+    ObjectRef object = insert(index, store::ObjectType::hotSpot, area.x(), area.y());
+    object.number(store::HotSpot::QuickSpot, 1)
+        .text(store::HotSpot::QuickHeight, std::to_string(area.height()))
+        .text(store::HotSpot::QuickWidth, std::to_string(area.width()))
+        .text(store::HotSpot::Group, "0");
     return object;
 }
 
@@ -115,16 +85,16 @@ void SceneBuilder::link(store::LinkSide side, int scene) {
     link.target = small(scene);
     switch (side) {
         case store::LinkSide::up:
-            link.pointer = up;
+            link.pointer = kPointerUp;
             break;
         case store::LinkSide::down:
-            link.pointer = down;
+            link.pointer = kPointerDown;
             break;
         case store::LinkSide::left:
-            link.pointer = left;
+            link.pointer = kPointerLeft;
             break;
         case store::LinkSide::right:
-            link.pointer = right;
+            link.pointer = kPointerRight;
             break;
     }
 }

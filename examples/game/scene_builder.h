@@ -5,10 +5,29 @@
 #include <vector>
 
 #include "art/sprite.h"
-#include "game/object_fields.h"
+#include "store/objects.h"
 #include "store/scene.h"
 
 namespace quorvel::sample {
+
+// Values of option fields.
+inline constexpr int kLooping = 1;
+inline constexpr int kPingPong = 2;
+inline constexpr int kOneShot = 3;     ///< of an Ambient
+inline constexpr int kOnClick = 5;     ///< of a Reactor
+inline constexpr int kToMap = 2;       ///< of a HotSpot
+inline constexpr int kLowerLeft = 2;   ///< of a Conversation
+inline constexpr int kUpperRight = 3;  ///< of a Conversation
+
+// Mouse pointers over links and hot spots.
+inline constexpr int kPointerUp = 1;
+inline constexpr int kPointerDown = 2;
+inline constexpr int kPointerLeft = 3;
+inline constexpr int kPointerRight = 4;
+inline constexpr int kPointerExit = 9;
+
+/// Comparisons of a flag test.
+enum class Compare { equal, notEqual, less, greater };
 
 /// A flag with a value: what is tested, or what is set.
 struct FlagValue {
@@ -24,14 +43,14 @@ class ObjectRef {
   public:
     explicit ObjectRef(store::ObjectSlot& slot) : slot_(slot) {}
 
-    ObjectRef& number(int field, int value);
-    ObjectRef& text(int field, const std::string& value);
+    ObjectRef& number(store::NumberField field, int value);
+    ObjectRef& text(store::WordField field, const std::string& value);
     /// Three fields from `field` on: flag, comparison, value.
-    ObjectRef& test(int field, const FlagValue& value);
+    ObjectRef& test(store::NumberField field, const FlagValue& value);
     /// Three fields from `field` on: flag, value, add.
-    ObjectRef& set(int field, const FlagValue& value);
-    /// The object exists only while the test holds.
-    ObjectRef& visibleWhen(int visibilityField, const FlagValue& value);
+    ObjectRef& set(store::NumberField field, const FlagValue& value);
+    /// The object exists only while the test holds; the test follows the visibility.
+    ObjectRef& visibleWhen(store::NumberField visibility, const FlagValue& value);
 
   private:
     store::ObjectSlot& slot_;
@@ -43,9 +62,9 @@ class SceneBuilder {
     SceneBuilder(const std::string& name, const SceneArt& art);
 
     /// Object `index` of a type without a picture, or with one to come, at a place.
-    ObjectRef insert(int index, ObjectType type, int x, int y);
+    ObjectRef insert(int index, store::ObjectType type, int x, int y);
     /// Object `index` shown by a sprite of the scene's art, where the sprite was painted.
-    ObjectRef insert(int index, ObjectType type, const std::string& sprite);
+    ObjectRef insert(int index, store::ObjectType type, const std::string& sprite);
     /// A QuickSpot: a hot spot without a picture.
     ObjectRef insertQuickSpot(int index, const QRect& area);
 

@@ -6,8 +6,18 @@
 namespace quorvel::sample {
 namespace {
 
-using enum ObjectType;
+using Type = store::ObjectType;
+using store::Ambient;
+using store::Conversation;
+using store::Delay;
+using store::FlagConjunction;
+using store::Goodie;
+using store::HotSpot;
 using store::LinkSide;
+using store::MultiTrigger;
+using store::Reactor;
+using store::Responder;
+using store::Switch;
 
 int number(Item item) {
     return static_cast<int>(item);
@@ -15,11 +25,11 @@ int number(Item item) {
 
 /// Goodies vanish for good once their flag is set.
 void pickUpOnce(ObjectRef object, Item item, Flag taken) {
-    object.number(Goodie::item, number(item))
-        .visibleWhen(Goodie::visibility, {taken, 0})
-        .number(Goodie::setOn, 1)
-        .set(Goodie::set, {taken, 1})
-        .text(Goodie::success, "Chime.wav");
+    object.number(Goodie::GivenItem, number(item))
+        .visibleWhen(Goodie::Visibility, {taken, 0})
+        .number(Goodie::SetFlagOn, 1)
+        .set(Goodie::SetFlag, {taken, 1})
+        .text(Goodie::SuccessMedia, "Chime.wav");
 }
 
 store::Scene harbour(const SceneArt& art) {
@@ -30,43 +40,43 @@ store::Scene harbour(const SceneArt& art) {
     scene.link(LinkSide::up, kLane);
     scene.link(LinkSide::right, kCliff);
     scene.switchSceneWhen({kBeaconLit, 1}, kBoatsHome);
-    scene.insert(1, ambient, "Glints.gif");
-    scene.insert(2, ambient, "Smoke.gif");
-    scene.insert(3, reactor, "Gulls.gif")
-        .number(Reactor::style, Reactor::loop)
-        .text(Reactor::sound, "Gull.wav")
-        .number(Reactor::volume, -800);
-    scene.insert(4, ambient, "Rowboat.gif").number(Ambient::style, Ambient::pingPong);
-    scene.insert(5, ambient, "QuayLamp.gif");
-    scene.insert(6, hotSpot, "ChartBoard.gif")
-        .number(HotSpot::linkKind, HotSpot::toMap)
-        .text(HotSpot::success, "Click.wav")
-        .text(HotSpot::group, "0");
-    pickUpOnce(scene.insert(7, goodie, "Herring.gif"), Item::herring, kHerringTaken);
-    scene.insert(8, reactor, "Pilchard.gif")
-        .number(Reactor::style, Reactor::pingPong)
-        .text(Reactor::sound, "Purr.wav");
-    scene.insert(9, reactor, "Bell.gif")
-        .number(Reactor::style, Reactor::onClick)
-        .text(Reactor::sound, "Bell.wav")
-        .number(Reactor::setOn, 1)
-        .set(Reactor::set, {kBellRung, 1});
+    scene.insert(1, Type::ambient, "Glints.gif");
+    scene.insert(2, Type::ambient, "Smoke.gif");
+    scene.insert(3, Type::reactor, "Gulls.gif")
+        .number(Reactor::Style, kLooping)
+        .text(Reactor::Sound, "Gull.wav")
+        .number(Reactor::SoundVolume, -800);
+    scene.insert(4, Type::ambient, "Rowboat.gif").number(Ambient::Style, kPingPong);
+    scene.insert(5, Type::ambient, "QuayLamp.gif");
+    scene.insert(6, Type::hotSpot, "ChartBoard.gif")
+        .number(HotSpot::TargetKind, kToMap)
+        .text(HotSpot::SuccessSound, "Click.wav")
+        .text(HotSpot::Group, "0");
+    pickUpOnce(scene.insert(7, Type::goodie, "Herring.gif"), Item::herring, kHerringTaken);
+    scene.insert(8, Type::reactor, "Pilchard.gif")
+        .number(Reactor::Style, kPingPong)
+        .text(Reactor::Sound, "Purr.wav");
+    scene.insert(9, Type::reactor, "Bell.gif")
+        .number(Reactor::Style, kOnClick)
+        .text(Reactor::Sound, "Bell.wav")
+        .number(Reactor::SetFlagOn, 1)
+        .set(Reactor::SetFlag, {kBellRung, 1});
     scene.insertQuickSpot(10, {556, 52, 72, 138})
-        .number(HotSpot::pointer, up)
-        .number(HotSpot::scene, kCliff)
-        .text(HotSpot::success, "Click.wav");
+        .number(HotSpot::Pointer, kPointerUp)
+        .number(HotSpot::TargetScene, kCliff)
+        .text(HotSpot::SuccessSound, "Click.wav");
     // A gull answers the bell, a little later.
-    scene.insert(11, delay, 12, 12)
-        .test(Delay::test, {kBellRung, 1})
-        .number(Delay::seconds, 3)
-        .set(Delay::set, {kBellAnswered, 1});
-    scene.insert(12, responder, 66, 12)
-        .test(Responder::test, {kBellAnswered, 1})
-        .number(Responder::onlyHere, 1)
-        .number(Responder::playOn, 1)
-        .text(Responder::media, "Gull.wav")
-        .number(Responder::setOn, 1)
-        .set(Responder::set, {kBellRung, 0});
+    scene.insert(11, Type::delay, 12, 12)
+        .test(Delay::TestFlag, {kBellRung, 1})
+        .number(Delay::Seconds, 3)
+        .set(Delay::SetFlag, {kBellAnswered, 1});
+    scene.insert(12, Type::responder, 66, 12)
+        .test(Responder::TestFlag, {kBellAnswered, 1})
+        .number(Responder::OnlyInScene, 1)
+        .number(Responder::MediaOn, 1)
+        .text(Responder::Media, "Gull.wav")
+        .number(Responder::SetFlagOn, 1)
+        .set(Responder::SetFlag, {kBellRung, 0});
     return scene.scene();
 }
 
@@ -75,52 +85,52 @@ store::Scene lane(const SceneArt& art) {
     scene.soundtrack("KeepWaltz.mid", -900);
     scene.link(LinkSide::down, kHarbour);
     scene.link(LinkSide::up, kAttic);
-    scene.insert(1, ambient, "Puddle.gif");
+    scene.insert(1, Type::ambient, "Puddle.gif");
     scene.insertQuickSpot(2, {144, 240, 46, 108})
-        .number(HotSpot::pointer, exitDoor)
-        .number(HotSpot::scene, kChandlery)
-        .text(HotSpot::success, "Creak.wav")
-        .text(HotSpot::group, "1");
+        .number(HotSpot::Pointer, kPointerExit)
+        .number(HotSpot::TargetScene, kChandlery)
+        .text(HotSpot::SuccessSound, "Creak.wav")
+        .text(HotSpot::Group, "1");
     scene.insertQuickSpot(3, {606, 240, 80, 166})
-        .number(HotSpot::pointer, exitDoor)
-        .number(HotSpot::scene, kInn)
-        .text(HotSpot::success, "Creak.wav")
-        .text(HotSpot::group, "2");
-    scene.insert(4, hotSpot, "AnchorSign.gif")
-        .number(HotSpot::animation, 2)
-        .number(HotSpot::scene, kChandlery)
-        .text(HotSpot::success, "ShopBell.wav")
-        .text(HotSpot::group, "1");
-    scene.insert(5, hotSpot, "MothSign.gif")
-        .number(HotSpot::animation, 2)
-        .number(HotSpot::scene, kInn)
-        .text(HotSpot::success, "Creak.wav")
-        .text(HotSpot::group, "2");
-    scene.insert(6, ambient, "Moths.gif");
-    scene.insert(7, reactor, "LaneCat.gif")
-        .number(Reactor::style, Reactor::pingPong)
-        .text(Reactor::sound, "Purr.wav");
-    scene.insert(8, switcher, "LaneLamp.gif")
-        .number(Switcher::flag, kLaneLampLit)
-        .text(Switcher::soundA, "Click.wav")
-        .text(Switcher::soundB, "Match.wav");
-    scene.insert(9, responder, 12, 415)
-        .test(Responder::test, {kLaneLampLit, 1})
-        .number(Responder::playOn, 1)
-        .text(Responder::media, "Chime.wav");
+        .number(HotSpot::Pointer, kPointerExit)
+        .number(HotSpot::TargetScene, kInn)
+        .text(HotSpot::SuccessSound, "Creak.wav")
+        .text(HotSpot::Group, "2");
+    scene.insert(4, Type::hotSpot, "AnchorSign.gif")
+        .number(HotSpot::Style, kPingPong)
+        .number(HotSpot::TargetScene, kChandlery)
+        .text(HotSpot::SuccessSound, "ShopBell.wav")
+        .text(HotSpot::Group, "1");
+    scene.insert(5, Type::hotSpot, "MothSign.gif")
+        .number(HotSpot::Style, kPingPong)
+        .number(HotSpot::TargetScene, kInn)
+        .text(HotSpot::SuccessSound, "Creak.wav")
+        .text(HotSpot::Group, "2");
+    scene.insert(6, Type::ambient, "Moths.gif");
+    scene.insert(7, Type::reactor, "LaneCat.gif")
+        .number(Reactor::Style, kPingPong)
+        .text(Reactor::Sound, "Purr.wav");
+    scene.insert(8, Type::switchObject, "LaneLamp.gif")
+        .number(Switch::Flag, kLaneLampLit)
+        .text(Switch::SoundA, "Click.wav")
+        .text(Switch::SoundB, "Match.wav");
+    scene.insert(9, Type::responder, 12, 415)
+        .test(Responder::TestFlag, {kLaneLampLit, 1})
+        .number(Responder::MediaOn, 1)
+        .text(Responder::Media, "Chime.wav");
     // Lamp, oil and matches together are worth a score, once.
-    scene.insert(10, flagConjunction, 66, 415)
-        .number(5, 1)
-        .test(6, {kLampTaken, 1})
-        .number(9, 1)
-        .test(10, {kOilTaken, 1})
-        .number(13, 1)
-        .test(14, {kMatchesTaken, 1})
-        .number(17, 1)
-        .test(18, {kScore, 20, Compare::less})
-        .text(FlagConjunction::flag, std::to_string(kScore))
-        .text(FlagConjunction::value, "20")
-        .text(FlagConjunction::add, "0");
+    scene.insert(10, Type::flagConjunction, 66, 415)
+        .number(FlagConjunction::SelectedA, 1)
+        .test(FlagConjunction::TestFlagA, {kLampTaken, 1})
+        .number(FlagConjunction::SelectedB, 1)
+        .test(FlagConjunction::TestFlagB, {kOilTaken, 1})
+        .number(FlagConjunction::SelectedC, 1)
+        .test(FlagConjunction::TestFlagC, {kMatchesTaken, 1})
+        .number(FlagConjunction::SelectedD, 1)
+        .test(FlagConjunction::TestFlagD, {kScore, 20, Compare::less})
+        .text(FlagConjunction::SetFlag, std::to_string(kScore))
+        .text(FlagConjunction::SetValue, "20")
+        .text(FlagConjunction::SetAdd, "0");
     return scene.scene();
 }
 
@@ -129,27 +139,27 @@ store::Scene chandlery(const SceneArt& art) {
     scene.soundtrack("MothJig.mid", -1400);
     scene.link(LinkSide::down, kLane);
     scene.setFlagOnEnter({kPuffinTalk, 1});
-    scene.insert(1, ambient, "ShopLamp.gif");
-    scene.insert(2, ambient, "Clock.gif").number(Ambient::style, Ambient::pingPong);
-    scene.insert(3, reactor, "Puffin.gif")
-        .number(Reactor::style, Reactor::loop)
-        .text(Reactor::sound, "Squawk.wav")
-        .number(Reactor::setOn, 1)
-        .set(Reactor::set, {kPuffinTalk, 1});
+    scene.insert(1, Type::ambient, "ShopLamp.gif");
+    scene.insert(2, Type::ambient, "Clock.gif").number(Ambient::Style, kPingPong);
+    scene.insert(3, Type::reactor, "Puffin.gif")
+        .number(Reactor::Style, kLooping)
+        .text(Reactor::Sound, "Squawk.wav")
+        .number(Reactor::SetFlagOn, 1)
+        .set(Reactor::SetFlag, {kPuffinTalk, 1});
     // The puffin lets nobody near the oil without a herring.
-    ObjectRef oil = scene.insert(4, goodie, "OilCan.gif");
+    ObjectRef oil = scene.insert(4, Type::goodie, "OilCan.gif");
     pickUpOnce(oil, Item::oilCan, kOilTaken);
-    oil.number(Goodie::needsItem, 1)
-        .number(Goodie::requiredItem, number(Item::herring))
-        .text(Goodie::failure, "Squawk.wav");
-    scene.insert(5, conversation, 640, 12)
-        .number(Conversation::card, kCardPuffin)
-        .visibleWhen(Conversation::visibility, {kPuffinTalk, 1})
-        .number(Conversation::corner, Conversation::upperRight);
+    oil.number(Goodie::NeedsItem, 1)
+        .number(Goodie::NeededItem, number(Item::herring))
+        .text(Goodie::FailureSound, "Squawk.wav");
+    scene.insert(5, Type::conversation, 640, 12)
+        .number(Conversation::CueCard, kCardPuffin)
+        .visibleWhen(Conversation::Visibility, {kPuffinTalk, 1})
+        .number(Conversation::Corner, kUpperRight);
     scene.insertQuickSpot(6, {28, 98, 96, 200})
-        .number(HotSpot::pointer, exitDoor)
-        .number(HotSpot::scene, kLane)
-        .text(HotSpot::success, "ShopBell.wav");
+        .number(HotSpot::Pointer, kPointerExit)
+        .number(HotSpot::TargetScene, kLane)
+        .text(HotSpot::SuccessSound, "ShopBell.wav");
     return scene.scene();
 }
 
@@ -157,30 +167,30 @@ store::Scene inn(const SceneArt& art) {
     SceneBuilder scene("Moth & Candle", art);
     scene.soundtrack("MothJig.mid", -700);
     scene.link(LinkSide::down, kLane);
-    scene.insert(1, ambient, "Hearth.gif")
-        .text(Ambient::sound, "Fire.wav")
-        .number(Ambient::volume, -700);
-    scene.insert(2, ambient, "Pipe.gif");
-    scene.insert(3, ambient, "InnMoth.gif");
+    scene.insert(1, Type::ambient, "Hearth.gif")
+        .text(Ambient::Sound, "Fire.wav")
+        .number(Ambient::SoundVolume, -700);
+    scene.insert(2, Type::ambient, "Pipe.gif");
+    scene.insert(3, Type::ambient, "InnMoth.gif");
     scene.insertQuickSpot(4, {388, 212, 168, 204})
-        .visibleWhen(HotSpot::visibility, {kTalk, 1, Compare::less})
-        .number(HotSpot::setOn, 1)
-        .set(HotSpot::set, {kTalk, 1})
-        .text(HotSpot::success, "Click.wav");
-    scene.insert(5, conversation, 640, 12)
-        .number(Conversation::card, kCardKeeper)
-        .visibleWhen(Conversation::visibility, {kTalk, 1})
-        .number(Conversation::exclusive, 1);
-    scene.insert(6, conversation, 586, 12)
-        .number(Conversation::card, kCardTale)
-        .visibleWhen(Conversation::visibility, {kTalk, 2})
-        .number(Conversation::corner, Conversation::lowerLeft);
-    scene.insert(7, responder, 12, 12)
-        .test(Responder::test, {kTalk, 3})
-        .number(Responder::playOn, 1)
-        .text(Responder::media, "Chime.wav")
-        .number(Responder::mapOn, 1)
-        .number(Responder::location, kMapLighthouse);
+        .visibleWhen(HotSpot::Visibility, {kTalk, 1, Compare::less})
+        .number(HotSpot::SetFlagOn, 1)
+        .set(HotSpot::SetFlag, {kTalk, 1})
+        .text(HotSpot::SuccessSound, "Click.wav");
+    scene.insert(5, Type::conversation, 640, 12)
+        .number(Conversation::CueCard, kCardKeeper)
+        .visibleWhen(Conversation::Visibility, {kTalk, 1})
+        .number(Conversation::BlocksOthers, 1);
+    scene.insert(6, Type::conversation, 586, 12)
+        .number(Conversation::CueCard, kCardTale)
+        .visibleWhen(Conversation::Visibility, {kTalk, 2})
+        .number(Conversation::Corner, kLowerLeft);
+    scene.insert(7, Type::responder, 12, 12)
+        .test(Responder::TestFlag, {kTalk, 3})
+        .number(Responder::MediaOn, 1)
+        .text(Responder::Media, "Chime.wav")
+        .number(Responder::AddLocationOn, 1)
+        .number(Responder::AddLocation, kMapLighthouse);
     return scene.scene();
 }
 
@@ -188,18 +198,18 @@ store::Scene attic(const SceneArt& art) {
     SceneBuilder scene("Wren's Attic", art);
     scene.soundtrack("KeepWaltz.mid", -1100);
     scene.link(LinkSide::down, kLane);
-    scene.insert(1, ambient, "Dust.gif");
-    pickUpOnce(scene.insert(2, goodie, "Lamp.gif"), Item::brassLamp, kLampTaken);
-    pickUpOnce(scene.insert(3, goodie, "Matches.gif"), Item::matches, kMatchesTaken);
-    scene.insert(4, reactor, "Telescope.gif")
-        .number(Reactor::style, Reactor::onClick)
-        .text(Reactor::sound, "Clank.wav")
-        .number(Reactor::once, 1);
+    scene.insert(1, Type::ambient, "Dust.gif");
+    pickUpOnce(scene.insert(2, Type::goodie, "Lamp.gif"), Item::brassLamp, kLampTaken);
+    pickUpOnce(scene.insert(3, Type::goodie, "Matches.gif"), Item::matches, kMatchesTaken);
+    scene.insert(4, Type::reactor, "Telescope.gif")
+        .number(Reactor::Style, kOnClick)
+        .text(Reactor::Sound, "Clank.wav")
+        .number(Reactor::OncePerView, 1);
     // The first thing found opens the score.
-    scene.insert(5, multiTrigger, 12, 12)
-        .test(MultiTrigger::first, {kLampTaken, 1})
-        .number(MultiTrigger::first + MultiTrigger::setOn, 1)
-        .set(MultiTrigger::first + MultiTrigger::set, {kScore, 10});
+    scene.insert(5, Type::multiTrigger, 12, 12)
+        .test(MultiTrigger::TestFlag1, {kLampTaken, 1})
+        .number(MultiTrigger::SetFlagOn1, 1)
+        .set(MultiTrigger::SetFlag1, {kScore, 10});
     return scene.scene();
 }
 
