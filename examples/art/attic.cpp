@@ -17,15 +17,17 @@ const QPointF kWindow(350, 168);
 void paintAtticRoom(QPainter& painter) {
     drape(painter, planks({600, 300}, hex(0x8a6248), 38, 121),
           quad({170, 330}, {530, 330}, {820, 540}, {-120, 540}));
-    // The roof comes down to the floor on both sides.
+    // Low walls, and the roof above them on both sides.
+    drape(painter, planks({300, 120}, hex(0x7a5a48), 26, 124),
+          quad({-330, 240}, {150, 322}, {174, 338}, {-120, 546}));
+    drape(painter, planks({300, 120}, hex(0x7a5a48), 26, 125),
+          quad({550, 322}, {1030, 240}, {820, 546}, {526, 338}));
+    painter.fillRect(QRectF(280, -10, 140, 110), hex(0x4a3428));
+
     drape(painter, planks({300, 300}, hex(0x6e5042), 30, 122),
-          quad({-60, 300}, {290, -60}, {345, 40}, {150, 332}));
+          quad({-330, 250}, {240, -210}, {345, 40}, {150, 332}));
     drape(painter, planks({300, 300}, hex(0x6e5042), 30, 123),
-          quad({410, -60}, {760, 300}, {550, 332}, {355, 40}));
-    drape(painter, planks({60, 200}, hex(0x5e4438), 20, 124),
-          quad({-60, 300}, {150, 332}, {150, 336}, {-120, 540}));
-    drape(painter, planks({60, 200}, hex(0x5e4438), 20, 125),
-          quad({550, 332}, {760, 300}, {820, 540}, {550, 336}));
+          quad({460, -210}, {1030, 250}, {550, 332}, {355, 40}));
     const QPainterPath gable =
         polygon({{150, 334}, {318, 66}, {345, 36}, {355, 36}, {382, 66}, {550, 334}});
     fillTextured(painter, gable, plaster({410, 310}, hex(0x98826e), 126));
@@ -200,7 +202,7 @@ SceneArt atticArt() {
     paintDesk(painter);
     paintCandle(painter, {70, 362}, 26);
     painter.end();
-    LightMap light(hex(0x565a8c));
+    LightMap light(hex(0x646898));
     const QPainterPath beam = polygon({{306, 150}, {396, 170}, {420, 440}, {150, 450}});
     light.addShape(beam, hex(0xa0b4f0), 0.75, 26);
     light.addLamp({300, 420}, 170, 60, hex(0xb0c0ff), 0.7);

@@ -57,7 +57,7 @@ void paintPoint(QPainter& painter) {
                                      {760, 214},
                                      {760, 300}});
     painter.fillPath(cliff, downward(178, 276, {{0, hex(0x4c3c68)}, {1, hex(0x1e1c40)}}));
-    mottle(painter, cliff, 14, 40, 0.4, 224);
+    mottle(painter, cliff, 14, 40, 0.22, 224);
     stroke(painter, cliff, fade(hex(0xffc890), 0.3), 1.4);
     paintLighthouse(painter, {520, 182}, 132, 1);
     painter.fillPath(polygon({{544, 184}, {544, 168}, {558, 158}, {574, 168}, {574, 186}}),
@@ -79,7 +79,7 @@ void paintFleet(QImage& picture) {
     };
     const Boat boats[] = {{360, 274, 34, 0x5a3a58},  {282, 280, -42, 0x4a4a6a},
                           {420, 288, 52, 0x6a3a48},  {96, 292, 62, 0x3a4a68},
-                          {214, 322, 108, 0x34587a}, {468, 352, 148, 0x8a3f40}};
+                          {214, 322, 108, 0x34587a}, {424, 366, 148, 0x8a3f40}};
     for (const Boat& boat : boats) {
         paintAfloat(picture, boat.y, 0.8, [&boat](QPainter& p) {
             paintFishingBoat(p, {boat.x, boat.y}, boat.length, hex(boat.hull), 1);
@@ -139,7 +139,7 @@ void paintRipples(QPainter& painter, int frame) {
     for (int i = 0; i < 120; ++i) {
         const double depth = random.unit();
         const double y = kHorizon + 6 + depth * 120;
-        const double x = 520 - depth * 60 + (8 + 50 * depth) * (random.unit() + random.unit() - 1);
+        const double x = 540 + depth * 30 + (8 + 34 * depth) * (random.unit() + random.unit() - 1);
         const double wave = std::sin(kTurn * (random.unit() + frame / 12.0));
         if (wave > 0.1) {
             painter.fillPath(ellipse({x, y}, (2 + 9 * depth) * wave, 0.6 + 0.8 * depth),
@@ -180,7 +180,7 @@ SceneArt boatsHomeArt() {
                  11,
                  [](QPainter& p, int f) { paintLanterns(p, f); }},
                 {"Ripples.gif",
-                 {390, 264, 190, 128},
+                 {510, 264, 120, 128},
                  12,
                  11,
                  [](QPainter& p, int f) { paintRipples(p, f); }},

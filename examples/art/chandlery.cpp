@@ -152,7 +152,8 @@ SceneArt chandleryArt() {
     paintBottle(painter, {316, 313}, 30, hex(0x3a5a86));
     paintCandle(painter, {540, 313}, 24);
     painter.end();
-    LightMap light(hex(0x48406a));
+    LightMap light(hex(0x5c5278));
+    light.addLamp({640, 330}, 200, 180, hex(0xc07850), 0.5);
     light.addLamp({300, 84}, 420, 330, hex(0xffae60), 1.5);
     light.addLamp({300, 110}, 170, 130, hex(0xffd090), 0.6);
     light.addLamp({540, 282}, 150, 110, hex(0xff9c50), 0.8);

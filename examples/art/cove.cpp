@@ -55,14 +55,43 @@ QPainterPath cliffRight() {
                  {660, 380}});
 }
 
+/// Cracked layers of rock, moonlit on their upper edges.
+void paintStrata(QPainter& painter, const QPainterPath& cliff, unsigned seed) {
+    Random random(seed);
+    painter.save();
+    painter.setClipPath(cliff);
+    const QRectF box = cliff.boundingRect();
+    for (double y = box.top(); y < box.bottom(); y += random.between(9, 24)) {
+        for (double x = box.left() - random.between(0, 40); x < box.right();) {
+            const double width = random.between(22, 74);
+            const double height = random.between(8, 24);
+            const double drop = random.between(-5, 7);
+            const QPainterPath slab = blob({{x, y + drop},
+                                            {x + width * 0.5, y - 2},
+                                            {x + width, y + drop * 0.3},
+                                            {x + width * 0.95, y + height},
+                                            {x + width * 0.4, y + height + 3},
+                                            {x + 2, y + height}});
+            const QColor face = mix(hex(0x1a1e42), hex(0x4a5284), random.unit() * 0.8);
+            painter.fillPath(slab, downward(y, y + height,
+                                            {{0, fade(shade(face, 1.35), 0.8)},
+                                             {1, fade(shade(face, 0.6), 0.8)}}));
+            stroke(painter, {x + 3, y + drop}, {x + width * 0.5, y - 2},
+                   fade(hex(0xb8c4f4), random.between(0.03, 0.25)), 1);
+            x += width * random.between(0.8, 1.1);
+        }
+    }
+    painter.restore();
+    mottle(painter, cliff, 60, 24, 0.35, seed + 1);
+    mottle(painter, cliff, 12, 30, 0.25, seed + 2);
+}
+
 void paintRocks(QPainter& painter) {
     for (const QPainterPath& cliff : {cliffLeft(), cliffRight()}) {
-        fillTextured(painter, cliff, stonework({340, 620}, hex(0x464a72), 30, 45));
-        mottle(painter, cliff, 60, 24, 0.6, 46);
-        mottle(painter, cliff, 14, 40, 0.3, 47);
         painter.fillPath(
             cliff,
-            downward(0, 400, {{0, fade(hex(0x0a0c24), 0.35)}, {1, fade(hex(0x0a0c24), 0.6)}}));
+            downward(0, 400, {{0, hex(0x232848)}, {0.5, hex(0x343a62)}, {1, hex(0x15183a)}}));
+        paintStrata(painter, cliff, 45);
     }
     stroke(painter, cliffRight(), fade(hex(0xc8d4ff), 0.28), 2);
     painter.fillPath(cliffLeft(),
@@ -87,10 +116,15 @@ void paintRocks(QPainter& painter) {
     rock({250, 268}, 10);
 }
 
+QPainterPath waterEdge() {
+    QPainterPath edge(QPointF(-10, 352));
+    edge.cubicTo(120, 300, 230, 330, 330, 340);
+    edge.cubicTo(440, 350, 560, 300, 710, 330);
+    return edge;
+}
+
 void paintBeach(QPainter& painter) {
-    QPainterPath sand(QPointF(-10, 352));
-    sand.cubicTo(120, 300, 230, 330, 330, 340);
-    sand.cubicTo(440, 350, 560, 300, 710, 330);
+    QPainterPath sand = waterEdge();
     sand.lineTo(710, 480);
     sand.lineTo(-10, 480);
     sand.closeSubpath();
@@ -98,9 +132,7 @@ void paintBeach(QPainter& painter) {
         sand, downward(310, 475, {{0, hex(0x6a6a90)}, {0.25, hex(0x8a8098)}, {1, hex(0x3c3452)}}));
     mottle(painter, sand, 90, 9, 0.35, 50);
     mottle(painter, sand, 3, 2, 0.16, 51);
-    QPainterPath wet(QPointF(-10, 352));
-    wet.cubicTo(120, 300, 230, 330, 330, 340);
-    wet.cubicTo(440, 350, 560, 300, 710, 330);
+    const QPainterPath wet = waterEdge();
     stroke(painter, wet.translated(0, 12), fade(hex(0x20244e), 0.4), 18);
     stroke(painter, wet.translated(0, 2), fade(hex(0xe6ecff), 0.75), 2.6);
     stroke(painter, wet.translated(0, -9), fade(hex(0xd0daff), 0.3), 1.4);
@@ -134,15 +166,17 @@ void paintBeach(QPainter& painter) {
 
 void paintSurf(QPainter& painter, int frame) {
     const double t = frame / 14.0;
-    const double reach = 8 * std::sin(kTurn * t);
+    const double reach = 6 * std::sin(kTurn * t);
+    const QPainterPath edge = waterEdge();
     for (int line = 0; line < 3; ++line) {
         QPainterPath foam;
-        for (int x = 110; x <= 560; x += 6) {
-            const double base = 329 + 9 * std::sin((x - 80) / 78.0) - line * 13;
-            const double y = base + reach * (1 - line * 0.35) +
-                             3 * (noise(x / 16.0, line, 53) - 0.5) +
-                             2 * std::sin(x / 21.0 + kTurn * t);
-            x == 110 ? foam.moveTo(x, y) : foam.lineTo(x, y);
+        for (int step = 0; step <= 90; ++step) {
+            const QPointF on = edge.pointAtPercent(0.13 + step * 0.74 / 90);
+            const double x = on.x();
+            const double y = on.y() + 4 - line * 12 + reach * (1 - line * 0.35) +
+                             5 * (noise(x / 14.0, line, 53) - 0.5) +
+                             1.6 * std::sin(x / 21.0 + kTurn * t);
+            step == 0 ? foam.moveTo(x, y) : foam.lineTo(x, y);
         }
         const double strength =
             (0.75 - 0.2 * line) * (0.75 + 0.25 * std::sin(kTurn * (t + line * .3)));
@@ -243,7 +277,7 @@ SceneArt coveArt() {
              12,
              12,
              [](QPainter& p, int f) { paintMoonPath(p, f); }},
-            {"Surf.gif", {104, 280, 462, 74}, 14, 12, [](QPainter& p, int f) { paintSurf(p, f); }},
+            {"Surf.gif", {80, 286, 540, 76}, 14, 12, [](QPainter& p, int f) { paintSurf(p, f); }},
             {"Pool.gif",
              {284, 398, 148, 50},
              12,

@@ -64,8 +64,14 @@ void paintFarShore(QImage& picture) {
 void paintTown(QImage& picture) {
     QPainter painter(&picture);
     makeSmooth(painter);
-    const QPainterPath hill =
-        blob({{-60, 300}, {-60, 128}, {30, 118}, {110, 150}, {190, 205}, {268, 262}, {200, 320}});
+    const QPainterPath hill = blob({{-60, 330},
+                                    {-60, 128},
+                                    {30, 118},
+                                    {110, 150},
+                                    {180, 205},
+                                    {232, 268},
+                                    {238, 306},
+                                    {120, 330}});
     painter.fillPath(hill, downward(120, 300, {{0, hex(0x3a2c56)}, {1, hex(0x2a2040)}}));
     mottle(painter, hill, 18, 12, 0.3, 12);
     const std::vector<HouseLook> rows = {
@@ -97,11 +103,11 @@ void paintBoats(QImage& picture) {
     paintAfloat(picture, 268, 0.75, [](QPainter& p) {
         paintFishingBoat(p, {268, 268}, 52, hex(0x5a3a50), 0.7);
     });
-    paintAfloat(picture, 262, 0.7, [](QPainter& p) {
-        paintFishingBoat(p, {452, 262}, -38, hex(0x6a4258), 0.6);
+    paintAfloat(picture, 260, 0.7, [](QPainter& p) {
+        paintFishingBoat(p, {404, 260}, -34, hex(0x6a4258), 0.6);
     });
     paintAfloat(picture, 322, 0.8, [](QPainter& p) {
-        paintFishingBoat(p, {560, 322}, -150, hex(0x35506a), 0.9);
+        paintFishingBoat(p, {524, 322}, -150, hex(0x35506a), 0.9);
     });
 }
 
@@ -140,8 +146,8 @@ void paintQuayThings(QImage& picture) {
     paintCrate(painter, {98, 396, 58, 42}, 41);
     paintBollard(painter, {352, 352}, 26);
     paintBollard(painter, {520, 402}, 36);
-    paintRope(painter, {352, 334}, {516, 312}, 10, 1.6);
-    paintRope(painter, {520, 376}, {618, 318}, 14, 1.8);
+    paintRope(painter, {352, 334}, {470, 310}, 10, 1.6);
+    paintRope(painter, {520, 376}, {584, 316}, 14, 1.8);
     paintRopeCoil(painter, {470, 424}, 22);
     // Nets hung up to dry, and the post that carries the bell.
     paintLampPost(painter, {196, 420}, 190, 0.85);
@@ -301,13 +307,13 @@ std::vector<Sprite> harbourSprites() {
          11,
          [](QPainter& p, int f) { paintLampFlicker(p, f, 8); }},
         {"Rowboat.gif",
-         {404, 286, 104, 54},
+         {354, 286, 104, 54},
          10,
          14,
          [](QPainter& p, int f) {
              const double bob = std::sin(kTurn * f / 20);
-             p.fillPath(ellipse({455, 322}, 44 + 2 * bob, 4), fade(hex(0x1c1834), 0.5));
-             p.translate(455, 318 + 2.4 * bob);
+             p.fillPath(ellipse({405, 322}, 44 + 2 * bob, 4), fade(hex(0x1c1834), 0.5));
+             p.translate(405, 318 + 2.4 * bob);
              p.rotate(1.8 * bob);
              paintRowboat(p, {0, 0}, 88, hex(0x9a4a40));
          }},

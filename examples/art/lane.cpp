@@ -173,9 +173,11 @@ void paintSign(QPainter& painter, QPointF hook, double angle, bool moth) {
         paintFlame(painter, {0, 34}, 12, 0.2);
         for (const double side : {-1.0, 1.0}) {
             painter.fillPath(
-                blob({{side * 2, 22}, {side * 12, 14}, {side * 17, 20}, {side * 9, 27}}),
+                polygon({{side * 1.5, 15}, {side * 17, 13}, {side * 13, 23}, {side * 2, 22}}),
                 hex(0xf4ead0));
-            painter.fillPath(ellipse({side * 11, 19}, 2, 2), hex(0x8a4a2a));
+            painter.fillPath(polygon({{side * 1.5, 21}, {side * 10, 23}, {side * 6, 28}}),
+                             hex(0xd0b890));
+            stroke(painter, {side * 1, 15}, {side * 4, 11}, hex(0xf4ead0), 1);
         }
         painter.fillPath(ellipse({0, 21}, 2, 5), hex(0x6a4a3a));
     } else {
@@ -248,7 +250,8 @@ std::vector<Sprite> laneSprites() {
          [](QPainter& p, int f) {
              p.fillPath(
                  blob({{246, 424}, {290, 406}, {350, 410}, {378, 424}, {330, 438}, {270, 438}}),
-                 downward(404, 440, {{0, hex(0x8a6a78)}, {1, hex(0x2c2a50)}}));
+                 downward(404, 440,
+                          {{0, fade(hex(0x6a5a80), 0.8)}, {1, fade(hex(0x20224a), 0.9)}}));
              glow(p, {318, 420}, 34, hex(0xffb868), 0.5 + 0.15 * std::sin(kTurn * f / 12));
              for (int ring = 0; ring < 2; ++ring) {
                  const double age = std::fmod(f / 12.0 + ring * 0.5, 1.0);

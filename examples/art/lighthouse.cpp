@@ -39,7 +39,11 @@ void paintTower(QPainter& painter) {
     painter.save();
     painter.setClipPath(tower);
     for (const double y : {-30.0, 132.0}) {
-        painter.fillRect(QRectF(240, y, 320, 84), fade(hex(0xb03c3c), 0.72));
+        QPainterPath ring(QPointF(240, y));
+        ring.quadTo(397, y + 22, 560, y);
+        ring.lineTo(560, y + 84);
+        ring.quadTo(397, y + 106, 240, y + 84);
+        painter.fillPath(ring, fade(hex(0xb03c3c), 0.72));
     }
     painter.restore();
     painter.fillPath(tower, sideways(258, 536,
@@ -133,8 +137,9 @@ void paintSpray(QPainter& painter, int frame) {
     }
     for (int line = 0; line < 3; ++line) {
         QPainterPath foam;
-        for (int x = 0; x <= 190; x += 5) {
-            const double y = 402 - x * 0.10 + line * 5 + 3 * std::sin(x / 15.0 + kTurn * t + line);
+        for (int x = 0; x <= 165; x += 5) {
+            const double y = 375 + 33 * std::exp(-x / 55.0) - line * 6 +
+                             3 * std::sin(x / 15.0 + kTurn * t + line);
             x == 0 ? foam.moveTo(x, y) : foam.lineTo(x, y);
         }
         stroke(painter, foam, fade(hex(0xe8f0ff), 0.6 - line * 0.15), 2.4 - line * 0.5);

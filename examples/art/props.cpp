@@ -86,15 +86,27 @@ void paintHouse(QPainter& painter, const HouseLook& look) {
                                     {{0, fade(hex(0xffc890), 0.10)},
                                      {0.5, fade(hex(0x201838), .0)},
                                      {1, fade(hex(0x181430), 0.45)}}));
-    const double over = look.width * 0.07;
-    for (const double side : {-1.0, 1.0}) {
-        const QPointF eave(peak + side * (look.width / 2 + over), wall.top() + over * 0.9);
-        const QPointF ridge(peak, wall.top() - rise - 1);
-        const QColor roof = side < 0 ? shade(look.roof, 1.15) : shade(look.roof, 0.75);
-        painter.fillPath(
-            polygon({ridge, eave, eave + QPointF(-side * over * 0.3, 5), ridge + QPointF(0, 7)}),
-            roof);
-    }
+    // The gable stands back; the roof's slope is seen below its ridge.
+    const double over = look.width * 0.08;
+    const QPointF ridge(peak, wall.top() - rise);
+    const QPointF leftEave(wall.left() - over, wall.top() + over);
+    const QPointF rightEave(wall.right() + over, wall.top() + over);
+    const double lip = std::max(4.0, look.width * 0.11);
+    const QPainterPath band = polygon(
+        {ridge, rightEave, rightEave + QPointF(-over * 0.5, lip * 0.7),
+         ridge + QPointF(0, lip * 1.7), leftEave + QPointF(over * 0.5, lip * 0.7), leftEave});
+    painter.fillPath(band.translated(0, 3), fade(Qt::black, 0.3));
+    fillTextured(
+        painter, band,
+        slates(band.boundingRect().size().toSize() + QSize(2, 2), look.roof, lip * 0.7, look.seed));
+    painter.fillPath(band, sideways(leftEave.x(), rightEave.x(),
+                                    {{0, fade(hex(0xffb890), 0.38)},
+                                     {0.49, fade(hex(0xffb890), 0.12)},
+                                     {0.51, fade(hex(0x0c0820), 0.3)},
+                                     {1, fade(hex(0x0c0820), 0.55)}}));
+    QPainterPath edge(leftEave);
+    edge.lineTo(ridge);
+    stroke(painter, edge, fade(hex(0xffc8a0), 0.6), 1);
     const int columns = look.width > 52 ? 3 : 2;
     const int rows = std::max(1, static_cast<int>(look.height / 34));
     const double cell = look.width / columns;

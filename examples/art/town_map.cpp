@@ -83,13 +83,13 @@ void paintLand(QPainter& painter) {
             stroke(painter, ellipse(at - QPointF(0, 3), 5, 6), fade(kInk, 0.5), 0.8);
         }
     }
-    QPainterPath way(QPointF(96, 300));
-    way.cubicTo(150, 330, 190, 330, 230, 340);
-    way.cubicTo(330, 380, 420, 360, 470, 300);
-    way.cubicTo(520, 240, 560, 200, 600, 150);
+    QPainterPath way(QPointF(150, 262));
+    way.cubicTo(170, 320, 240, 330, 300, 312);
+    way.cubicTo(370, 330, 430, 330, 470, 280);
+    way.cubicTo(520, 220, 560, 190, 600, 140);
     painter.strokePath(way, QPen(hex(0xa03828), 2.6, Qt::DashLine, Qt::RoundCap));
-    QPainterPath spur(QPointF(240, 342));
-    spur.quadTo(250, 390, 330, 420);
+    QPainterPath spur(QPointF(282, 316));
+    spur.cubicTo(250, 280, 230, 250, 212, 214);
     painter.strokePath(spur, QPen(hex(0xa03828), 2.2, Qt::DashLine, Qt::RoundCap));
 }
 
@@ -180,19 +180,19 @@ SceneArt mapArt() {
         "TownMap.bmp",
         picture,
         {
-            medal("MapHarb.gif", {300, 330}, 8,
+            medal("MapHarb.gif", {312, 292}, 8,
                   [](QPainter& p, int f) {
                       const double bob = std::sin(kTurn * f / 8);
                       p.fillRect(QRectF(-30, 8, 60, 30), hex(0x2a5a7a));
                       paintFishingBoat(p, {0, 10 + bob}, 26, hex(0x9a4038), 1);
                   }),
-            medal("MapLane.gif", {150, 240}, 1,
+            medal("MapLane.gif", {130, 272}, 1,
                   [](QPainter& p, int) {
                       p.fillRect(QRectF(-30, 14, 60, 30), hex(0x3a2c48));
                       paintHouse(p, {-20, 16, 19, 16, hex(0xc09a80), hex(0x6a3a44), 3, 1.0});
                       paintHouse(p, {1, 16, 19, 20, hex(0xa88a90), hex(0x4a3458), 5, 1.0});
                   }),
-            medal("MapCove.gif", {372, 420}, 8,
+            medal("MapCove.gif", {204, 190}, 8,
                   [](QPainter& p, int f) {
                       paintMoon(p, {5, -7}, 6, 0.4);
                       p.fillRect(QRectF(-30, 4, 60, 30), hex(0x28386c));
@@ -201,7 +201,7 @@ SceneArt mapArt() {
                           stroke(p, {5 - w, 7.0 + i * 3}, {5 + w, 7.0 + i * 3}, hex(0xf0e8d0), 1.2);
                       }
                   }),
-            medal("MapCliff.gif", {470, 300}, 1,
+            medal("MapCliff.gif", {468, 262}, 1,
                   [](QPainter& p, int) {
                       p.fillPath(
                           polygon({{-30, 6}, {-4, 4}, {8, -8}, {30, -10}, {30, 30}, {-30, 30}}),
@@ -211,7 +211,7 @@ SceneArt mapArt() {
                           hex(0xc8b090));
                       paintGull(p, {-8, -8}, 14, 0.7, hex(0xfff0e4));
                   }),
-            medal("MapLight.gif", {586, 148}, 8,
+            medal("MapLight.gif", {590, 128}, 8,
                   [](QPainter& p, int f) {
                       p.fillPath(ellipse({0, 24}, 26, 12), hex(0x3c4a58));
                       paintLighthouse(p, {0, 16}, 34, 0.6 + 0.4 * std::sin(kTurn * f / 8));

@@ -79,8 +79,8 @@ void writeGif(const std::filesystem::path& path, const std::vector<QImage>& fram
     require(EGifCloseFile(gif.release(), nullptr) == GIF_OK, path);
     // The library makes files that only their owner can read.
     using std::filesystem::perms;
-    std::filesystem::permissions(path, perms::owner_read | perms::owner_write | perms::group_read |
-                                           perms::others_read);
+    std::filesystem::permissions(
+        path, perms::owner_read | perms::owner_write | perms::group_read | perms::others_read);
 }
 
 }  // namespace quorvel::sample
