@@ -43,6 +43,7 @@ void writeArt(const fs::path& gfx, const SceneArt& art) {
     save(art.picture.convertToFormat(QImage::Format_RGB32), gfx / art.file, 92);
     for (const Sprite& sprite : art.sprites) {
         std::vector<QImage> frames;
+        frames.reserve(16);
         for (int frame = 0; frame < sprite.frames; ++frame) {
             frames.push_back(renderFrame(sprite, art.picture, frame));
         }
@@ -69,6 +70,7 @@ void writeItemPictures(store::Project& project, const fs::path& gfx) {
         writeCursor(gfx / record.ItemCursor.text(), itemIcon(item, false), {16, 16});
         writeCursor(gfx / record.ItemCursorHi.text(), itemIcon(item, true), {16, 16});
         std::vector<QImage> frames;
+        frames.reserve(16);
         for (int frame = 0; frame < (item == Item::litLamp ? kCloseupFrames : 1); ++frame) {
             frames.push_back(itemCloseup(item, frame));
         }

@@ -177,9 +177,9 @@ void softFill(QPainter& painter, const QPainterPath& path, const QColor& colour,
 namespace {
 
 /// One pass of a running mean over `count` pixels that lie `step` apart.
-void blurLine(QRgb* pixels, int count, int step, int radius, std::vector<QRgb>& copy) {
+void blurLine(QRgb* pixels, int count, std::ptrdiff_t step, int radius, std::vector<QRgb>& copy) {
     copy.resize(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
+    for (std::ptrdiff_t i = 0; i < count; ++i) {
         copy[static_cast<std::size_t>(i)] = pixels[i * step];
     }
     const auto at = [&](int i) {
@@ -213,7 +213,7 @@ void blur(QImage& image, int radius) {
         return;
     }
     std::vector<QRgb> copy;
-    const auto step = static_cast<int>(image.bytesPerLine() / 4);
+    const std::ptrdiff_t step = image.bytesPerLine() / 4;
     auto* pixels = reinterpret_cast<QRgb*>(image.bits());
     const int box = std::max(1, radius / 2);
     for (int pass = 0; pass < 3; ++pass) {

@@ -54,7 +54,8 @@ bool putFrame(GifFileType* gif, std::vector<std::uint8_t> entries, QSize size, i
         return false;
     }
     for (int y = 0; y < size.height(); ++y) {
-        if (EGifPutLine(gif, entries.data() + y * size.width(), size.width()) != GIF_OK) {
+        if (EGifPutLine(gif, entries.data() + std::ptrdiff_t{y} * size.width(), size.width()) !=
+            GIF_OK) {
             return false;
         }
     }

@@ -6,6 +6,9 @@
 namespace quorvel::sample {
 namespace {
 
+/// Colours of 6 bits a channel.
+constexpr std::size_t kColours = 262144;
+
 /// A set of colours with how often each occurs; it is cut in two until the palette is full.
 struct Box {
     struct Entry {
@@ -52,7 +55,7 @@ struct Box {
 };
 
 Box colourCounts(const std::vector<QImage>& pictures) {
-    std::vector<std::int64_t> counts(64 * 64 * 64);
+    std::vector<std::int64_t> counts(kColours);
     for (const QImage& picture : pictures) {
         for (int y = 0; y < picture.height(); ++y) {
             const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
@@ -66,7 +69,7 @@ Box colourCounts(const std::vector<QImage>& pictures) {
         }
     }
     Box all;
-    for (int key = 0; key < 64 * 64 * 64; ++key) {
+    for (int key = 0; key < static_cast<int>(kColours); ++key) {
         if (const auto count = counts[static_cast<std::size_t>(key)]; count > 0) {
             all.entries.push_back(
                 {{(key >> 12) * 4 + 2, ((key >> 6) & 63) * 4 + 2, (key & 63) * 4 + 2}, count});
@@ -102,7 +105,7 @@ double weight(const Box& box) {
 
 }  // namespace
 
-Palette::Palette(const std::vector<QImage>& pictures) : known_(64 * 64 * 64, -1) {
+Palette::Palette(const std::vector<QImage>& pictures) : known_(kColours, -1) {
     std::vector<Box> boxes{colourCounts(pictures)};
     while (boxes.size() < kPaletteSize - 1) {
         const auto widest = std::ranges::max_element(boxes, {}, weight);

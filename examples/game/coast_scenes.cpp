@@ -8,7 +8,6 @@ namespace {
 
 using Type = store::ObjectType;
 using store::Ambient;
-using store::Conversation;
 using store::Delay;
 using store::FlagConjunction;
 using store::Goodie;
