@@ -1,21 +1,19 @@
 #!/usr/bin/env python3
 """Starts the program with a project on a virtual screen of its own, waits until its main window
-shows the project, takes a picture and closes the program the way an author does.
+shows the project, takes a picture and asks the program to end.
 
 Ends with 0 when all of that went well: the window came up, the picture is not blank, and the
-program ended by itself with 0.
+program closed the project and ended with 0.
 """
 
 import argparse
 import os
+import shutil
 import signal
 import subprocess
 import sys
 import tempfile
 import time
-
-import framebuffer
-import x11
 
 SETTLING = 4  # seconds that a window gets to finish drawing
 
@@ -24,12 +22,12 @@ class Failure(Exception):
     pass
 
 
-def start_screen(size, folder):
+def start_screen(size):
     """Starts Xvfb; returns the process and the number of its display."""
     readable, writable = os.pipe()
     screen = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(writable), "-screen", "0", size + "x24", "-fbdir", folder,
-         "-nolisten", "tcp", "-nocursor", "-noreset"],
+        ["Xvfb", "-displayfd", str(writable), "-screen", "0", size + "x24", "-nolisten", "tcp",
+         "-nocursor", "-noreset"],
         pass_fds=[writable], stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     os.close(writable)
     with os.fdopen(readable) as pipe:
@@ -39,46 +37,72 @@ def start_screen(size, folder):
     return screen, number
 
 
-def wait_for_window(display, program, title, seconds):
+def ask(command, environment, may_fail=False):
+    """What a tool writes; one that hangs or fails is a failure of the picture."""
+    try:
+        result = subprocess.run(command, env=environment, stdin=subprocess.DEVNULL,
+                                capture_output=True, encoding="utf-8", errors="replace",
+                                timeout=30, check=False)
+    except subprocess.TimeoutExpired as late:
+        raise Failure(f"{command[0]} did not end within {late.timeout:g} s") from late
+    if result.returncode != 0 and not may_fail:
+        raise Failure(f"{command[0]} ended with {result.returncode}: {result.stderr.strip()}")
+    return result.stdout
+
+
+def window_names(environment):
+    """The names of the visible windows that have one."""
+    # xdotool fails when there is no window, and when one goes while it is asked for its name.
+    names = ask(["xdotool", "search", "--onlyvisible", "--maxdepth", "1", "--name", ".",
+                 "getwindowname", "%@"], environment, may_fail=True)
+    return [name for name in names.splitlines() if name]
+
+
+def wait_for_window(environment, program, title, seconds):
     deadline = time.monotonic() + seconds
     while time.monotonic() < deadline:
         if program.poll() is not None:
             raise Failure(f"the program ended with {program.returncode} before its window came up")
-        if any(name.startswith(title) for _, name in display.windows()):
+        if any(name.startswith(title) for name in window_names(environment)):
             return
         time.sleep(0.25)
-    seen = [name for _, name in display.windows() if name]
+    seen = window_names(environment)
     raise Failure(f'no window "{title}..." within {seconds:g} s; windows on the screen: {seen}')
 
 
-def settled_picture(screen_file):
-    """The picture once two in a row are equal; an animation never rests, so not for ever."""
-    before = framebuffer.read_screen(screen_file)
+def take_picture(file, environment):
+    """Writes what is on the screen; returns a text that equal pictures have in common."""
+    ask(["import", "-window", "root", "png:" + file], environment)
+    return ask(["identify", "-format", "%#", "png:" + file], environment)
+
+
+def take_settled_picture(file, environment):
+    """Takes pictures until two in a row are equal; an animation never rests, so not for ever."""
+    before = take_picture(file, environment)
     deadline = time.monotonic() + SETTLING
     while True:
         time.sleep(0.75)
-        now = framebuffer.read_screen(screen_file)
-        if now.rows == before.rows or time.monotonic() > deadline:
-            return now
+        now = take_picture(file, environment)
+        if now == before or time.monotonic() > deadline:
+            return
         before = now
 
 
-def close(display, program, seconds):
-    """Closes the top window, again and again, until the program has ended."""
-    deadline = time.monotonic() + seconds
-    while program.poll() is None and time.monotonic() < deadline:
-        try:
-            named = [window for window, name in display.windows() if name]
-            if named:
-                display.ask_to_close(named[-1])
-        except ConnectionError:
-            pass
-        try:
-            program.wait(timeout=1)
-        except subprocess.TimeoutExpired:
-            continue
-    if program.poll() is None:
-        raise Failure(f"the program did not end within {seconds:g} s of being closed")
+def is_blank(file, environment):
+    """True when there is next to nothing to see: few colours, or nearly all of one."""
+    # A line for each colour, which begins with the number of its pixels.
+    histogram = ask(["convert", "png:" + file, "-format", "%c", "histogram:info:-"], environment)
+    counts = [int(line.split(":")[0]) for line in histogram.splitlines() if line.strip()]
+    return len(counts) < 100 or max(counts) > 0.95 * sum(counts)
+
+
+def close(program, seconds):
+    """Asks the program to end, which it does as if its window were closed."""
+    program.send_signal(signal.SIGTERM)
+    try:
+        program.wait(timeout=seconds)
+    except subprocess.TimeoutExpired as late:
+        raise Failure(f"the program did not end within {seconds:g} s of being asked to") from late
     if program.returncode != 0:
         raise Failure(f"the program ended with {program.returncode}")
 
@@ -95,31 +119,30 @@ def end(process):
 
 
 def take_portrait(options, folder):
-    screen, number = start_screen(options.screen, folder)
+    screen, number = start_screen(options.screen)
     try:
         environment = dict(os.environ, DISPLAY=":" + number, QT_QPA_PLATFORM="xcb")
         environment.pop("WAYLAND_DISPLAY", None)
-        display = x11.Display(number)
         program = subprocess.Popen([options.program, options.project], env=environment,
                                    stdin=subprocess.DEVNULL)
-        screen_file = os.path.join(folder, "Xvfb_screen0")
         try:
+            # ImageMagick reads more than a path into some names of files, so it gets a plain one.
+            picture = os.path.join(folder, "picture.png")
             try:
-                wait_for_window(display, program, options.title, options.timeout)
+                wait_for_window(environment, program, options.title, options.timeout)
             finally:
                 # What stands on the screen is the best account of a failure, too.
-                picture = settled_picture(screen_file)
-                picture.save(options.picture)
-            if picture.is_blank():
+                take_settled_picture(picture, environment)
+                shutil.copyfile(picture, options.picture)
+            if is_blank(picture, environment):
                 raise Failure("the picture is blank")
-            others = [name for _, name in display.windows()
-                      if name and not name.startswith(options.title)]
+            others = [name for name in window_names(environment)
+                      if not name.startswith(options.title)]
             if others:
                 print(f"    also on the screen: {others}")
-            close(display, program, options.closing)
+            close(program, options.closing)
         finally:
             end(program)
-            display.close()
     finally:
         end(screen)
 

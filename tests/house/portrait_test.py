@@ -10,35 +10,17 @@ import unittest
 ROOT = os.path.realpath(os.path.join(os.path.dirname(__file__), "..", ".."))
 PORTRAIT = os.path.join(ROOT, "scripts", "portrait.py")
 
-# A window without any toolkit: scripts/x11.py knows how to talk to the server. It has the given
-# title, stripes or nothing in it, and leaves with the given code when it is asked to close.
+# A window of ImageMagick's with the given title and drawing, which leaves with the given code when
+# it is asked to end.
 STAND_IN = """\
-#!/usr/bin/env python3
-import os, struct, sys
-sys.path.insert(0, {scripts!r})
-import x11
-display = x11.Display(os.environ["DISPLAY"].lstrip(":"))
-window, context = display.id_base + 1, display.id_base + 2
-display._send(1, struct.pack("<IIhhHHHHII", window, display.root, 0, 0, 400, 300, 0, 1, 0, 2)
-              + struct.pack("<I", 0x404040))
-def set_property(name, kind, bits, data):
-    body = struct.pack("<IIIBxxxI", window, display._atom(name), kind, bits, len(data) * 8 // bits)
-    display._send(18, body + data + bytes(-len(data) % 4))
-set_property("WM_NAME", 31, 8, {title!r}.encode())
-set_property("WM_PROTOCOLS", 4, 32, struct.pack("<I", display._atom("WM_DELETE_WINDOW")))
-display._send(8, struct.pack("<I", window))
-for x in range({stripes}):
-    display._send(55, struct.pack("<IIII", context + x, window, 4, x * 0x10305))
-    display._send(70, struct.pack("<IIhhHH", window, context + x, x, 0, 1, 300))
-display._atom("drawn")
-display._socket.settimeout(None)
-while display._receive(32)[0] & 127 != 33:
-    pass
-if {obeys}:
-    sys.exit({code})
-while True:
-    display._receive(32)
+#!/bin/sh
+trap 'kill "$window"; exit {code}' TERM
+display -title '{title}' {drawing} &
+window=$!
+wait
 """
+
+MANY_COLOURS = "-size 400x300 gradient:red-blue"
 
 
 class Portraits(unittest.TestCase):
@@ -48,11 +30,11 @@ class Portraits(unittest.TestCase):
         self.folder = folder.name
         self.picture = os.path.join(self.folder, "picture.png")
 
-    def take(self, title="Quorvel - Stand-in", stripes=400, obeys=True, code=0, source=None):
+    def take(self, title="Quorvel - Stand-in", drawing=MANY_COLOURS, code=0, source=None):
         program = os.path.join(self.folder, "program")
         with open(program, "w", encoding="utf-8") as file:
-            file.write(source or STAND_IN.format(scripts=os.path.join(ROOT, "scripts"), title=title,
-                                                 stripes=stripes, obeys=obeys, code=code))
+            file.write(textwrap.dedent(source) if source else
+                       STAND_IN.format(title=title, drawing=drawing, code=code))
         os.chmod(program, 0o755)
         result = subprocess.run(
             [sys.executable, PORTRAIT, "--program", program, "--project", "a.qvl", "--screen",
@@ -71,24 +53,79 @@ class Portraits(unittest.TestCase):
         with open(self.picture, "rb") as file:
             self.assertEqual(file.read(8), b"\x89PNG\r\n\x1a\n")
 
+    def test_the_same_window_again(self):
+        pictures = []
+        for _ in range(2):
+            self.take()
+            with open(self.picture, "rb") as file:
+                pictures.append(file.read())
+        self.assertEqual(*pictures)
+
+    def test_a_window_beside_it(self):
+        code, output = self.take(source="""\
+            #!/bin/sh
+            trap 'kill $windows; exit 0' TERM
+            display -title 'Tip of the day' -size 100x100 xc:white &
+            windows=$!
+            sleep 1
+            display -title 'Quorvel - Närrisch' -size 400x300 gradient:red-blue &
+            windows="$windows $!"
+            wait
+            """)
+        self.assertEqual((code, output), (0, "    also on the screen: ['Tip of the day']\n"))
+
     def test_a_window_without_the_project(self):
         self.expect_failure("windows on the screen: ['Quorvel']", title="Quorvel")
+        self.assertTrue(os.path.exists(self.picture))
+
+    def test_a_window_with_a_title_in_other_letters(self):
+        self.expect_failure("windows on the screen: ['quorvel - Stand-in']",
+                            title="quorvel - Stand-in")
+
+    def test_a_program_without_a_window(self):
+        self.expect_failure("windows on the screen: []", source="""\
+            #!/bin/sh
+            exec sleep 60
+            """)
 
     def test_a_blank_picture(self):
-        self.expect_failure("the picture is blank", stripes=0)
+        self.expect_failure("the picture is blank", drawing="-size 400x300 xc:gray25")
+
+    def test_a_picture_of_few_colours(self):
+        self.expect_failure("the picture is blank", drawing="-size 400x300 pattern:checkerboard")
+
+    def test_a_picture_that_is_nearly_all_of_one_colour(self):
+        self.expect_failure("the picture is blank", drawing="-size 30x300 gradient:red-blue")
+
+    def test_a_picture_of_an_earlier_start(self):
+        with open(self.picture, "w", encoding="utf-8") as file:
+            file.write("old")
+        self.expect_failure("No such file", source="#!/no/such/shell\n")
+        self.assertFalse(os.path.exists(self.picture))
 
     def test_a_program_that_does_not_close(self):
-        self.expect_failure("the program did not end within", obeys=False)
+        self.expect_failure("the program did not end within", source="""\
+            #!/bin/sh
+            trap '' TERM
+            display -title 'Quorvel - Stand-in' -size 400x300 gradient:red-blue &
+            exec sleep 60
+            """)
+
+    def test_a_program_that_does_not_know_how_to_close(self):
+        self.expect_failure("the program ended with -15", source="""\
+            #!/bin/sh
+            display -title 'Quorvel - Stand-in' -size 400x300 gradient:red-blue &
+            exec sleep 60
+            """)
 
     def test_a_program_that_closes_with_an_error(self):
         self.expect_failure("the program ended with 3", code=3)
 
     def test_a_program_that_ends_at_once(self):
-        self.expect_failure("the program ended with 7 before its window came up",
-                            source=textwrap.dedent("""\
-                                #!/bin/sh
-                                exit 7
-                                """))
+        self.expect_failure("the program ended with 7 before its window came up", source="""\
+            #!/bin/sh
+            exit 7
+            """)
 
 
 if __name__ == "__main__":
