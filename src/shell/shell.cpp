@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <QApplication>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 
@@ -255,11 +257,6 @@ void Shell::ExitProgram() {
     if (shuttingDown_) {
         return;
     }
-    if (project_.ProjectLoading) {
-        // The system may ask in the middle of an open, which cannot be cut off.
-        QTimer::singleShot(100, this, &Shell::ExitProgram);
-        return;
-    }
     shuttingDown_ = true;
     if (main_) {
         if (project_.ProjectOpen && !CloseProject()) {
@@ -272,6 +269,18 @@ void Shell::ExitProgram() {
         main_->hide();
     }
     surroundings_.quit();
+}
+
+void Shell::endByRequest() {
+    // Nobody is there to answer: boxes are left as with Escape. An open cannot be cut off.
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        box->close();
+    }
+    if (project_.ProjectLoading) {
+        QTimer::singleShot(100, this, &Shell::endByRequest);
+        return;
+    }
+    ExitProgram();
 }
 
 void Shell::activate() {

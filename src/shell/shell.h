@@ -55,6 +55,10 @@ class Shell : public QObject {
     /// Ends the process in order.
     void ExitProgram();
 
+    /// Ends the process as the system asks: boxes that are open are left unanswered, and a project
+    /// that is being opened is waited for.
+    void endByRequest();
+
     /// Brings the main window to the front.
     void activate();
 

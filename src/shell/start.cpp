@@ -50,7 +50,7 @@ int runEditor(int argc, char** argv) {
     if (!start.begin()) {
         return 0;
     }
-    const TerminationSignals signalsOfTheSystem([&shell] { shell.ExitProgram(); });
+    const TerminationSignals signalsOfTheSystem([&shell] { shell.endByRequest(); });
     return QApplication::exec();
 }
 

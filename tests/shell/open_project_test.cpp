@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTimer>
 
 #include "forms/form.h"
 #include "support/windows/shell_fixture.h"
@@ -51,6 +52,27 @@ TEST_F(OpenProject, AndClosingLeavesTheFilesAsTheyWere) {
     EXPECT_FALSE(shell->project().ProjectOpen);
     EXPECT_EQ(main().windowTitle(), QStringLiteral("Quorvel"));
     EXPECT_EQ(differences(before, snapshotOf(projects.path())), "");
+}
+
+TEST_F(OpenProject, IsFinishedBeforeTheSystemMayEndTheEditor) {
+    const TestProject files = ProjectBuilder().scenes(2).build(projects.path());
+    const FolderSnapshot before = snapshotOf(projects.path());
+    start();
+    // The request arrives while the progress window stands.
+    QTimer::singleShot(20, [this] { shell->endByRequest(); });
+    shell->openProject(text(files.projectPath()));
+    EXPECT_TRUE(waitUntil([this] { return quits == 1; }));
+    EXPECT_FALSE(shell->project().ProjectOpen);
+    EXPECT_EQ(differences(before, snapshotOf(projects.path())), "");
+}
+
+TEST_F(OpenProject, LeavesABoxUnansweredWhenTheSystemEndsTheEditor) {
+    start();
+    forms::MessageBoxes real;
+    QTimer::singleShot(50, [this] { shell->endByRequest(); });
+    EXPECT_EQ(real.show({.text = QStringLiteral("?"), .buttons = forms::Box::Buttons::yesNo}),
+              forms::Answer::no);
+    EXPECT_EQ(quits, 1);
 }
 
 }  // namespace
