@@ -96,6 +96,15 @@ def is_blank(file, environment):
     return len(counts) < 100 or max(counts) > 0.95 * sum(counts)
 
 
+def resident_megabytes(program):
+    """The most memory that the program has held so far, as the system counts it."""
+    with open(f"/proc/{program.pid}/status", encoding="ascii", errors="replace") as status:
+        for line in status:
+            if line.startswith("VmHWM:"):
+                return int(line.split()[1]) / 1024
+    raise Failure("the system does not say how much memory the program holds")
+
+
 def close(program, seconds):
     """Asks the program to end, which it does as if its window were closed."""
     program.send_signal(signal.SIGTERM)
@@ -136,6 +145,12 @@ def take_portrait(options, folder):
                 shutil.copyfile(picture, options.picture)
             if is_blank(picture, environment):
                 raise Failure("the picture is blank")
+            if options.memory:
+                held = resident_megabytes(program)
+                if held > options.memory:
+                    raise Failure(f"the program holds {held:.1f} MB, the limit is "
+                                  f"{options.memory:g} MB")
+                print(f"    memory: {held:.1f} MB resident (limit {options.memory:g} MB)")
             others = [name for name in window_names(environment)
                       if not name.startswith(options.title)]
             if others:
@@ -155,6 +170,7 @@ def main():
     parser.add_argument("--picture", required=True, help="the PNG file to write")
     parser.add_argument("--title", default="Quorvel - ", help="how the window's title begins")
     parser.add_argument("--timeout", type=float, default=40, help="seconds to wait for the window")
+    parser.add_argument("--memory", type=float, help="MB that it may hold with the window open")
     parser.add_argument("--closing", type=float, default=15, help="seconds it may take to end")
     options = parser.parse_args()
     if os.path.exists(options.picture):

@@ -25,9 +25,16 @@ QLabel* addPanel(QFrame* bar, const QString& name, const QString& widest) {
     return panel;
 }
 
+/// A quiet line between two panels.
 QFrame* separator(QWidget* parent) {
     auto* line = new QFrame(parent);
-    line->setFrameStyle(QFrame::VLine | QFrame::Sunken);
+    line->setFrameStyle(QFrame::VLine | QFrame::Plain);
+    QPalette palette = line->palette();
+    QColor color = palette.color(QPalette::WindowText);
+    color.setAlpha(70);
+    palette.setColor(QPalette::WindowText, color);
+    line->setPalette(palette);
+    line->setFixedHeight(line->fontMetrics().height());
     return line;
 }
 

@@ -30,7 +30,7 @@ class Portraits(unittest.TestCase):
         self.folder = folder.name
         self.picture = os.path.join(self.folder, "picture.png")
 
-    def take(self, title="Quorvel - Stand-in", drawing=MANY_COLOURS, code=0, source=None):
+    def take(self, title="Quorvel - Stand-in", drawing=MANY_COLOURS, code=0, source=None, more=()):
         program = os.path.join(self.folder, "program")
         with open(program, "w", encoding="utf-8") as file:
             file.write(textwrap.dedent(source) if source else
@@ -38,7 +38,7 @@ class Portraits(unittest.TestCase):
         os.chmod(program, 0o755)
         result = subprocess.run(
             [sys.executable, PORTRAIT, "--program", program, "--project", "a.qvl", "--screen",
-             "500x400", "--picture", self.picture, "--timeout", "4", "--closing", "3"],
+             "500x400", "--picture", self.picture, "--timeout", "4", "--closing", "3", *more],
             capture_output=True, text=True, check=False)
         return result.returncode, result.stdout + result.stderr
 
@@ -52,6 +52,12 @@ class Portraits(unittest.TestCase):
         self.assertEqual((code, output), (0, ""))
         with open(self.picture, "rb") as file:
             self.assertEqual(file.read(8), b"\x89PNG\r\n\x1a\n")
+
+    def test_a_program_that_holds_too_much_memory(self):
+        code, output = self.take(more=["--memory", "200"])
+        self.assertEqual(code, 0, output)
+        self.assertIn("MB resident (limit 200 MB)", output)
+        self.expect_failure("MB, the limit is 0.1 MB", more=["--memory", "0.1"])
 
     def test_the_same_window_again(self):
         pictures = []
