@@ -14,7 +14,7 @@
 namespace quorvel::game {
 
 ProjSecurity::ProjSecurity(store::Project& project, forms::Boxes& boxes,
-                           std::function<double()> random, std::function<void()> help,
+                           std::function<double()> random, const std::function<void()>& help,
                            QWidget* parent)
     : Form(QStringLiteral("ProjSecurity"), QStringLiteral("Project Security"), parent),
       project_(project),

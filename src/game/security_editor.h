@@ -19,7 +19,7 @@ class ProjSecurity : public forms::Form {
     /// `random` gives numbers from 0 up to but not including 1. `help` shows the window's help
     /// topic; without it the Help button is disabled.
     ProjSecurity(store::Project& project, forms::Boxes& boxes, std::function<double()> random,
-                 std::function<void()> help, QWidget* parent);
+                 const std::function<void()>& help, QWidget* parent);
 
   protected:
     void showEvent(QShowEvent* event) override;
