@@ -16,7 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::differences;
-using test::patchInt;
 using test::ProjectBuilder;
 using test::readBytes;
 using test::readInt;

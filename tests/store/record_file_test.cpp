@@ -38,7 +38,7 @@ TEST_F(RecordFileTest, RecordNLiesAtNMinusOneLengths) {
 }
 
 TEST_F(RecordFileTest, AWriteTouchesItsRecordAlone) {
-    writeBytes(path_(), test::randomBytes(209 * 3, 5));
+    writeBytes(path_(), test::randomBytes(std::size_t{209} * 3, 5));
     std::string expected = readBytes(path_());
     RecordFile<ItemRecord> file;
     file.open(path_());
@@ -117,7 +117,7 @@ std::string allBytes(RecordFile<ItemRecord>& file, std::vector<int>* blocks = nu
 }
 
 TEST_F(RecordFileTest, ReadAllHandsEveryRecordOverOnceInLargeBlocks) {
-    const std::string bytes = test::randomBytes(209 * 12000, 3);
+    const std::string bytes = test::randomBytes(std::size_t{209} * 12000, 3);
     writeBytes(path_(), bytes);
     RecordFile<ItemRecord> file;
     file.open(path_());
@@ -128,7 +128,8 @@ TEST_F(RecordFileTest, ReadAllHandsEveryRecordOverOnceInLargeBlocks) {
 
 TEST_F(RecordFileTest, ReadAllOfACutStoreFillsUpWithZeros) {
     for (const int rest : {1, 104, 105, 208}) {
-        const std::string bytes = test::randomBytes(209 * 2 + static_cast<std::size_t>(rest), 4);
+        const std::string bytes =
+            test::randomBytes(std::size_t{209} * 2 + static_cast<std::size_t>(rest), 4);
         writeBytes(path_(), bytes);
         RecordFile<ItemRecord> file;
         file.open(path_());
