@@ -192,7 +192,10 @@ void Main::showProgramTitle() {
 }
 
 void Main::showGameTitle(const QString& gameTitle) {
-    setWindowTitle(QStringLiteral("Quorvel - ") + gameTitle);
+    // The toolkit takes "[*]" for the place of a mark unless it stands there twice.
+    QString shown = gameTitle;
+    shown.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+    setWindowTitle(QStringLiteral("Quorvel - ") + shown);
 }
 
 void Main::ToggleAnimations(bool on) {

@@ -1,8 +1,9 @@
 #include "shell/path_text.h"
 
-#include <algorithm>
-
+#include <QDir>
 #include <QFileInfo>
+
+#include "store/paths.h"
 
 namespace quorvel::shell {
 
@@ -19,14 +20,21 @@ QString GetLongFileName(const QString& path) {
 }
 
 SplitPath splitPath(const QString& path) {
-#ifdef _WIN32
-    const auto last =
-        std::max(path.lastIndexOf(QLatin1Char('/')), path.lastIndexOf(QLatin1Char('\\')));
-#else
-    // Elsewhere a backslash is an ordinary character of a name.
-    const auto last = path.lastIndexOf(QLatin1Char('/'));
-#endif
-    return {path.left(last + 1), path.mid(last + 1)};
+    QString spelt = QDir::fromNativeSeparators(path);
+    // A backslash may be a letter of a name here, so what bears that very name comes first.
+    const bool spellsFreely = QDir::separator() == QLatin1Char('/');
+    if (spellsFreely && !spelt.isEmpty() && !QFileInfo::exists(spelt)) {
+        const auto isSeparator = [](QChar c) { return c == u'/' || c == u'\\'; };
+        const bool fromRoot = isSeparator(spelt.front());
+        const bool isFolder = isSeparator(spelt.back());
+        const auto found = store::resolvePath(fromRoot ? "/" : ".", spelt.toStdString());
+        spelt = QString::fromStdString(store::textOf(found));
+        if (isFolder) {
+            spelt += QLatin1Char('/');
+        }
+    }
+    const auto last = spelt.lastIndexOf(QLatin1Char('/'));
+    return {spelt.left(last + 1), spelt.mid(last + 1)};
 }
 
 }  // namespace quorvel::shell

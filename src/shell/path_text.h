@@ -12,11 +12,14 @@ QString ShrinkPath(const QString& path);
 /// The full form of an existing path, without links and detours; empty when there is none.
 QString GetLongFileName(const QString& path);
 
-/// A path split at its last separator, "/" or "\".
+/// A path split at its last separator.
 struct SplitPath {
     QString folder;  ///< with its separator; empty when the path has none
     QString name;
 };
+
+/// Splits a path as an author writes it: separators may be "/" or "\", steps that exist may stand
+/// in any letter case and come out as they are spelt on disk. What does not exist is kept as given.
 SplitPath splitPath(const QString& path);
 
 }  // namespace quorvel::shell

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -35,7 +36,7 @@ bool Shell::CheckRes() {
     const QString text =
         QStringLiteral(
             "This application requires a MINIMUM screen resolution of 800x600.\n\nYour current "
-            "screen resolution is %1x %2.\n\nClick 'OK' to change your screen resolution and "
+            "screen resolution is %1x%2.\n\nClick 'OK' to change your screen resolution and "
             "continue running this application (your current screen resolution will be restored "
             "when this application finishes).  Click 'Cancel' to exit the application without "
             "making any changes.")
@@ -123,10 +124,7 @@ void Shell::ChooseProject() {
 void Shell::openRecent(int number) {
     const QString path = settings_.RecentProj.at(static_cast<std::size_t>(number - 1));
     const SplitPath split = splitPath(path);
-    std::error_code error;
-    const auto file =
-        store::resolvePath(store::pathOf(split.folder.toStdString()), split.name.toStdString());
-    if (!std::filesystem::is_regular_file(file, error)) {
+    if (!QFileInfo(split.folder + split.name).isFile()) {
         surroundings_.boxes.show(
             {.text = QStringLiteral("Could not locate:\n\n%1\n\nIf this is on a removable disk, "
                                     "please\nmake sure the disk is inserted in the drive.")

@@ -73,6 +73,7 @@ void InitQV::build() {
     bar_ = new QProgressBar(this);
     bar_->setObjectName(QStringLiteral("ProgressBar1"));
     bar_->setRange(0, kBarGoal + 1);
+    bar_->setValue(0);
     bar_->setTextVisible(false);
     bar_->setMaximumHeight(10);
     column->addWidget(bar_);
