@@ -10,6 +10,7 @@ namespace {
 
 constexpr int kPadding = 6;
 constexpr int kIconGap = 4;
+constexpr QRect kAnywhere(0, 0, 10000, 10000);
 constexpr int kTextFlags = Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic;
 
 }  // namespace
@@ -30,7 +31,8 @@ int WrapButton::heightForWidth(int width) const {
 QSize WrapButton::minimumSizeHint() const {
     int widest = 0;
     for (const QString& word : text().split(QLatin1Char(' '))) {
-        widest = std::max(widest, fontMetrics().horizontalAdvance(word));
+        // Wider than the advance alone: what a letter draws beside its place counts too.
+        widest = std::max(widest, fontMetrics().boundingRect(kAnywhere, kTextFlags, word).width());
     }
     const int width = widest + 2 * kPadding;
     return {width, heightForWidth(width)};

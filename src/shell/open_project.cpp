@@ -46,14 +46,17 @@ void OpenProj::build() {
     setMinimumWidth(380);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(20, 16, 20, 18);
-    column->setSpacing(forms::kFormSpacing);
+    column->setSpacing(3);
     heading_ = addLabel(column, "Label1", "Loading Project...");
     QFont large = heading_->font();
     large.setBold(true);
     large.setPointSizeF(large.pointSizeF() * 1.2);
     heading_->setFont(large);
+    // Each caption stands close to what it names.
+    column->addSpacing(forms::kFormSpacing);
     addLabel(column, "Label2", "Current Operation");
     status_ = addLabel(column, "Status", "Reading Project Information");
+    column->addSpacing(forms::kFormSpacing);
     addLabel(column, "Label3", "Progress");
 
     bar_ = new QProgressBar(this);

@@ -1,5 +1,7 @@
 #include "shell/side_panel.h"
 
+#include <algorithm>
+
 #include <QLabel>
 #include <QLineEdit>
 #include <QStyle>
@@ -48,7 +50,6 @@ QPushButton* alertButton(QWidget* parent, const char* name, const char* caption)
 
 SidePanel::SidePanel(QWidget* parent) : QFrame(parent) {
     setObjectName(QStringLiteral("Picture1"));
-    setFixedWidth(kWidth);
 
     auto* caption = new QLabel(QStringLiteral("Scene #"), this);
     caption->setObjectName(QStringLiteral("Label1"));
@@ -93,6 +94,8 @@ SidePanel::SidePanel(QWidget* parent) : QFrame(parent) {
     column->addStretch();
     column->addWidget(ObjAlert);
     column->addWidget(ScnAlert);
+    // Large letters need more than the usual width.
+    setFixedWidth(std::max(kWidth, column->minimumSize().width()));
     showSceneNumber(0);
 }
 

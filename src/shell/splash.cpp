@@ -56,7 +56,6 @@ InitQV::InitQV(Work work) : QWidget(nullptr, Qt::SplashScreen), work_(std::move(
 }
 
 void InitQV::build() {
-    setFixedSize(kSize);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(32, 24, 32, 20);
     column->setSpacing(4);
@@ -79,6 +78,8 @@ void InitQV::build() {
     column->addWidget(bar_);
     column->addSpacing(4);
     addLabel(column, "Label3", QStringLiteral("This program is freeware!"), 0.9, false);
+    // Large letters need more than the usual size.
+    setFixedSize(kSize.expandedTo(sizeHint()));
 }
 
 void InitQV::showEvent(QShowEvent* event) {

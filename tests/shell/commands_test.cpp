@@ -201,8 +201,8 @@ TEST_F(Commands, WithoutAProjectOnlyWhatNeedsNoneCanBeUsed) {
 }
 
 const std::set<std::string> kEnabledWithAProject = {
-    "Filemen(2)",  "Filemen(3)",  "Filemen(9)",  "Filemen(14)", "projmen(12)",
-    "Toolbar1(1)", "Toolbar1(2)", "Toolbar1(5)", "Toolbar1(6)", "Toolbar1(7)"};
+    "Filemen(2)",  "Filemen(3)",  "Filemen(9)",  "Filemen(14)", "projmen(1)",  "projmen(12)",
+    "Toolbar1(1)", "Toolbar1(2)", "Toolbar1(5)", "Toolbar1(6)", "Toolbar1(7)", "Toolbar1(10)"};
 
 TEST_F(Commands, AProjectEnablesItsEntriesAndClosingTakesThemBack) {
     const TestProject files = ProjectBuilder().build(projects.path());

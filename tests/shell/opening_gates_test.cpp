@@ -40,7 +40,7 @@ class Gates : public ShellFixture {
                   QStringLiteral("(No Project Loaded)"));
         EXPECT_FALSE(action(QStringLiteral("Filemen(3)")).isEnabled());
         EXPECT_FALSE(action(QStringLiteral("projmen(12)")).isEnabled());
-        EXPECT_EQ(control<QLabel>(main(), QStringLiteral("CurScene")).text(),
+        EXPECT_EQ(control<QWidget>(main(), QStringLiteral("CurScene")).property("text").toString(),
                   QStringLiteral("---"));
         EXPECT_EQ(visibleWindow(QStringLiteral("OpenProj")), nullptr);
         EXPECT_EQ(shell->settings().RecentProj[0], QString()) << "not remembered";

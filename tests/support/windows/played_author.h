@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <gtest/gtest.h>
+#include <ostream>
 #include <vector>
 
 #include <QString>
@@ -13,6 +14,11 @@
 #include "forms/boxes.h"
 #include "forms/file_dialogs.h"
 #include "resources/programs.h"
+
+/// Lets a failed comparison print the text instead of its code units.
+inline void PrintTo(const QString& text, std::ostream* out) {
+    *out << '"' << text.toStdString() << '"';
+}
 
 namespace quorvel::test {
 

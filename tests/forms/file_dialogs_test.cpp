@@ -1,0 +1,75 @@
+#include "forms/file_dialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+
+#include "store/paths.h"
+#include "support/file_bytes.h"
+#include "support/temp_folder.h"
+#include "support/windows/played_author.h"
+
+namespace quorvel::test {
+namespace {
+
+QString filter(const char* text) {
+    return forms::toolkitFilter(QString::fromLatin1(text));
+}
+
+TEST(ToolkitFilter, TranslatesPairs) {
+    EXPECT_EQ(filter("Quorvel Projects (*.qvl)|*.qvl|"),
+              QStringLiteral("Quorvel Projects (*.qvl)"));
+    EXPECT_EQ(filter("Quorvel Projects (*.qvl)|*.qvl"), QStringLiteral("Quorvel Projects (*.qvl)"));
+    EXPECT_EQ(filter("Pictures (bmp, jpg)|*.bmp;*.jpg|All Files|*.*"),
+              QStringLiteral("Pictures (*.bmp *.jpg);;All Files (*.*)"));
+}
+
+TEST(ToolkitFilter, TakesWhatIsIncomplete) {
+    EXPECT_EQ(filter(""), QString());
+    EXPECT_EQ(filter("Pictures"), QString());
+    EXPECT_EQ(filter("|"), QString());
+}
+
+TEST(FileDialog, ReturnsTheFileThatWasChosen) {
+    const TempFolder folder;
+    writeBytes(folder / "A Game.QVL", "x");
+    const QString path = QString::fromStdString(store::textOf(folder / "A Game.QVL"));
+    forms::SystemFileDialogs dialogs;
+    QString chosen;
+    withWindow(
+        QStringLiteral("QFileDialog"),
+        [&] {
+            chosen =
+                dialogs.openFile({.title = QStringLiteral("Choose a project to open"),
+                                  .filter = QStringLiteral("Quorvel Projects (*.qvl)|*.qvl|"),
+                                  .folder = QString::fromStdString(store::textOf(folder.path())),
+                                  .fileName = {}});
+        },
+        [&](QWidget& window) {
+            auto& dialog = dynamic_cast<QFileDialog&>(window);
+            EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Choose a project to open"));
+            EXPECT_EQ(dialog.directory().absolutePath(),
+                      QString::fromStdString(store::textOf(folder.path())));
+            control<QLineEdit>(dialog, QStringLiteral("fileNameEdit"))
+                .setText(QStringLiteral("A Game.QVL"));
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+    EXPECT_EQ(chosen, path);
+}
+
+TEST(FileDialog, ReturnsNothingWhenItIsLeft) {
+    forms::SystemFileDialogs dialogs;
+    QString chosen = QStringLiteral("untouched");
+    withWindow(
+        QStringLiteral("QFileDialog"),
+        [&] {
+            chosen = dialogs.openFile({.title = {}, .filter = {}, .folder = {}, .fileName = {}});
+        },
+        [](QWidget& window) { dynamic_cast<QFileDialog&>(window).reject(); });
+    EXPECT_EQ(chosen, QString());
+}
+
+}  // namespace
+}  // namespace quorvel::test

@@ -1,0 +1,409 @@
+// What holds for every window: its controls bear their names, can be read aloud, fit the screen,
+// show their texts whole and are reached by the keyboard. A picture of each window in both palettes
+// is left in the folder window-pictures of the build.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTest>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "forms/events.h"
+#include "forms/look.h"
+#include "forms/wrap_button.h"
+#include "shell/splash.h"
+#include "support/windows/shell_fixture.h"
+
+namespace quorvel::test {
+namespace {
+
+using forms::Box;
+using forms::Look;
+
+/// What a window manager puts around a window.
+constexpr QSize kFrame(8, 34);
+constexpr QSize kScreen(800, 600);
+
+QString nameOf(const QWidget& widget) {
+    return QStringLiteral("%1 \"%2\"")
+        .arg(QString::fromLatin1(widget.metaObject()->className()), widget.objectName());
+}
+
+/// True for what the toolkit makes inside of its own controls.
+bool isInside(const QWidget& widget) {
+    if (widget.objectName().startsWith(QStringLiteral("qt_"))) {
+        return true;
+    }
+    for (const QWidget* parent = widget.parentWidget(); parent != nullptr;
+         parent = parent->parentWidget()) {
+        if (qobject_cast<const QComboBox*>(parent) != nullptr ||
+            parent->objectName().startsWith(QStringLiteral("qt_"))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::vector<QWidget*> visibleControls(const QWidget& window) {
+    std::vector<QWidget*> controls;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (widget->isVisible() && widget->window() == &window && !isInside(*widget)) {
+            controls.push_back(widget);
+        }
+    }
+    return controls;
+}
+
+void expectNames(const QWidget& window) {
+    for (const QWidget* widget : visibleControls(window)) {
+        const bool isControl = qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                               qobject_cast<const QComboBox*>(widget) != nullptr ||
+                               qobject_cast<const QLineEdit*>(widget) != nullptr ||
+                               qobject_cast<const QGroupBox*>(widget) != nullptr;
+        const bool ofToolkit = qobject_cast<const QToolButton*>(widget) != nullptr ||
+                               qobject_cast<const QMessageBox*>(&window) != nullptr;
+        if (isControl && !ofToolkit) {
+            EXPECT_FALSE(widget->objectName().isEmpty()) << nameOf(*widget).toStdString();
+        }
+        if (isControl) {
+            QAccessibleInterface* reader =
+                QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+            ASSERT_NE(reader, nullptr);
+            EXPECT_FALSE(reader->text(QAccessible::Name).trimmed().isEmpty())
+                << nameOf(*widget).toStdString() << " says nothing to a screen reader";
+        }
+    }
+}
+
+/// The room that a text needs in `widget`, or an empty size when it shows none.
+QSize roomForText(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+        if (label->text().isEmpty()) {
+            return {};
+        }
+        if (label->wordWrap()) {
+            return {0, label->heightForWidth(label->width())};
+        }
+        return label->minimumSizeHint();
+    }
+    if (qobject_cast<const forms::WrapButton*>(&widget) != nullptr) {
+        return {widget.minimumSizeHint().width(), widget.heightForWidth(widget.width())};
+    }
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+        return button->text().isEmpty() || qobject_cast<const QToolButton*>(button) != nullptr
+                   ? QSize()
+                   : button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
+    }
+    if (const auto* group = qobject_cast<const QGroupBox*>(&widget)) {
+        return {group->fontMetrics().horizontalAdvance(group->title()), 0};
+    }
+    return {};
+}
+
+void expectNoCutText(const QWidget& window) {
+    for (const QWidget* widget : visibleControls(window)) {
+        const QSize room = roomForText(*widget);
+        // The first panel of the status line gives way on purpose.
+        if (widget->objectName() == QStringLiteral("StatusBar1(1)")) {
+            continue;
+        }
+        EXPECT_LE(room.width(), widget->width()) << nameOf(*widget).toStdString();
+        EXPECT_LE(room.height(), widget->height()) << nameOf(*widget).toStdString();
+        const QRect inWindow(widget->mapTo(&window, QPoint()), widget->size());
+        bool scrolls = false;
+        for (const QWidget* parent = widget->parentWidget(); parent != nullptr;
+             parent = parent->parentWidget()) {
+            scrolls = scrolls || qobject_cast<const QScrollArea*>(parent) != nullptr;
+        }
+        if (!scrolls && !room.isEmpty()) {
+            EXPECT_TRUE(window.rect().contains(inWindow)) << nameOf(*widget).toStdString();
+        }
+    }
+    // A bar that has no room hides its last entries behind an arrow.
+    for (const auto* bar : window.findChildren<QToolBar*>()) {
+        const auto* more = bar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
+        EXPECT_TRUE(more == nullptr || !more->isVisible()) << "the tool bar is cut";
+    }
+    for (const auto* bar : window.findChildren<QMenuBar*>()) {
+        const auto* more = bar->findChild<QToolButton*>(QStringLiteral("qt_menubar_ext_button"));
+        // The folder of the project, the last entry, moves behind the arrow with large letters.
+        EXPECT_TRUE(more == nullptr || !more->isVisible() ||
+                    qEnvironmentVariableIsSet("QUORVEL_DOUBLE_LETTERS"))
+            << "the menu bar is cut";
+    }
+}
+
+void expectFits(const QWidget& window) {
+    const bool isMain = window.objectName() == QStringLiteral("Main");
+    if (isMain && qEnvironmentVariableIsSet("QUORVEL_DOUBLE_LETTERS")) {
+        // Its menus alone are wider than a small screen then; the scene scrolls on a larger one.
+        return;
+    }
+    const QSize smallest = window.minimumSize().expandedTo(window.minimumSizeHint());
+    const QSize size = window.size();
+    // The main window fills a small screen and has no frame then.
+    const QSize frame = isMain ? QSize(0, kFrame.height()) : kFrame;
+    EXPECT_LE(size.width() + frame.width(), kScreen.width()) << nameOf(window).toStdString();
+    EXPECT_LE(size.height() + frame.height(), kScreen.height()) << nameOf(window).toStdString();
+    EXPECT_LE(smallest.width(), kScreen.width()) << nameOf(window).toStdString();
+    EXPECT_LE(smallest.height(), kScreen.height()) << nameOf(window).toStdString();
+}
+
+/// Every control that takes the keyboard is met when Tab is pressed often enough.
+void expectTabReachesAll(QWidget& window) {
+    std::set<const QWidget*> wanted;
+    for (const QWidget* widget : visibleControls(window)) {
+        if (widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) != 0 &&
+            qobject_cast<const QScrollArea*>(widget) == nullptr) {
+            const auto* radio = qobject_cast<const QAbstractButton*>(widget);
+            // Of a group of options the one that is on takes the Tab key, the arrows do the rest.
+            if (radio == nullptr || !radio->autoExclusive() || radio->isChecked()) {
+                wanted.insert(widget);
+            }
+        }
+    }
+    window.activateWindow();
+    std::set<const QWidget*> met;
+    const QWidget* first = nullptr;
+    for (int i = 0; i < 200; ++i) {
+        QTest::keyClick(window.focusWidget() != nullptr ? window.focusWidget() : &window,
+                        Qt::Key_Tab);
+        const QWidget* now = window.focusWidget();
+        if (now == nullptr || now == first) {
+            break;
+        }
+        first = first == nullptr ? now : first;
+        met.insert(now);
+    }
+    for (const QWidget* widget : wanted) {
+        EXPECT_TRUE(met.contains(widget)) << nameOf(*widget).toStdString() << " is never reached";
+    }
+}
+
+class AllWindows : public ShellFixture, public ::testing::WithParamInterface<Look> {
+  protected:
+    AllWindows() {
+        forms::applyLook(*qApp, GetParam());
+        if (qEnvironmentVariableIsSet("QUORVEL_DOUBLE_LETTERS")) {
+            QFont font = letters;
+            font.setPointSizeF(2 * font.pointSizeF());
+            QApplication::setFont(font);
+        }
+    }
+    ~AllWindows() override { QApplication::setFont(letters); }
+    const QFont letters = QApplication::font();
+
+    void check(QWidget& window, const QString& name) {
+        SCOPED_TRACE(name.toStdString());
+        forms::letEventsRun();
+        picture(window, name);
+        expectNames(window);
+        expectFits(window);
+        expectNoCutText(window);
+        expectTabReachesAll(window);
+    }
+    static void picture(QWidget& window, const QString& name) {
+        const QDir folder(QCoreApplication::applicationDirPath() +
+                          QStringLiteral("/../window-pictures"));
+        QDir().mkpath(folder.path());
+        const QString look =
+            GetParam() == Look::dark ? QStringLiteral("dark") : QStringLiteral("light");
+        QString scale;
+        if (qEnvironmentVariableIsSet("QUORVEL_SCALED")) {
+            scale = QLatin1Char('-') + qEnvironmentVariable("QUORVEL_SCALED");
+        }
+        const QString file = folder.filePath(QStringLiteral("%1-%2%3.png").arg(name, look, scale));
+        EXPECT_TRUE(window.grab().save(file)) << file.toStdString();
+    }
+    TestProject someProject() {
+        return ProjectBuilder()
+            .title("The Lighthouse")
+            .scenes(3)
+            .locations(2)
+            .items(2)
+            .cards(1)
+            .object(1, 1, 5, 40, 40)
+            .object(1, 2, 8, 140, 40)
+            .object(1, 3, 2, 240, 40)
+            .object(1, 4, 7, 340, 40)
+            .object(1, 5, 99, 2000, 40)
+            .build(projects.makeFolder("The Lighthouse"));
+    }
+};
+
+TEST_P(AllWindows, Splash) {
+    shell::InitQV splash({});
+    splash.show();
+    forms::letEventsRun();
+    picture(splash, QStringLiteral("InitQV"));
+    expectFits(splash);
+    expectNoCutText(splash);
+}
+
+TEST_P(AllWindows, MainWithoutAProject) {
+    start({}, {1280, 800});
+    check(main(), QStringLiteral("Main-empty"));
+}
+
+TEST_P(AllWindows, MainWithAProject) {
+    start({text(someProject().projectPath())}, {1280, 800});
+    check(main(), QStringLiteral("Main"));
+}
+
+TEST_P(AllWindows, MainOnASmallScreen) {
+    start({text(someProject().projectPath())}, {800, 600});
+    main().showNormal();
+    main().resize(kScreen - QSize(0, kFrame.height()));
+    forms::letEventsRun();
+    check(main(), QStringLiteral("Main-800x600"));
+}
+
+TEST_P(AllWindows, MainBearsTheNamesOfItsControls) {
+    start();
+    QStringList names;
+    for (const char* one :
+         {"Main",     "Toolbar1",    "Picture1", "StatusBar1", "StatusBar2", "Image1",
+          "CurScene", "Command5",    "Command6", "Command7",   "Command8",   "Combo1",
+          "LocList",  "LocPointers", "MapList",  "InvList",    "CueList",    "ObjAlert",
+          "ScnAlert", "RestoreObjs", "ShutDwn",  "Frame1",     "SceneSize"}) {
+        names << QString::fromLatin1(one);
+    }
+    for (int n = 1; n <= 20; ++n) {
+        for (const char* array : {"Animation", "NoGIF", "hilite"}) {
+            names << QStringLiteral("%1(%2)").arg(QString::fromLatin1(array)).arg(n);
+        }
+    }
+    for (int n = 1; n <= 4; ++n) {
+        names << QStringLiteral("Directionl(%1)").arg(n) << QStringLiteral("Shape2(%1)").arg(n);
+    }
+    for (const QString& name : names) {
+        EXPECT_TRUE(main().objectName() == name || main().findChild<QWidget*>(name) != nullptr)
+            << name.toStdString();
+    }
+}
+
+TEST_P(AllWindows, NoNameIsGivenTwice) {
+    start({text(someProject().projectPath())});
+    std::map<QString, int> count;
+    for (const QWidget* widget : main().findChildren<QWidget*>()) {
+        if (!widget->objectName().isEmpty() && !isInside(*widget)) {
+            ++count[widget->objectName()];
+        }
+    }
+    for (const auto& [name, times] : count) {
+        EXPECT_EQ(times, 1) << name.toStdString();
+    }
+}
+
+TEST_P(AllWindows, OpeningAProject) {
+    const TestProject files = someProject();
+    start();
+    dialogs.choice = text(files.projectPath());
+    withWindow(
+        QStringLiteral("OpenProj"), [this] { action(QStringLiteral("Filemen(2)")).trigger(); },
+        [&](QWidget& window) {
+            picture(window, QStringLiteral("OpenProj"));
+            expectNames(window);
+            expectFits(window);
+            expectNoCutText(window);
+        });
+}
+
+TEST_P(AllWindows, ProjectSecurity) {
+    start({text(someProject().projectPath())});
+    withWindow(
+        QStringLiteral("ProjSecurity"), [this] { action(QStringLiteral("projmen(12)")).trigger(); },
+        [&](QWidget& window) {
+            check(window, QStringLiteral("ProjSecurity"));
+            window.close();
+        });
+}
+
+TEST_P(AllWindows, NewScene) {
+    start({text(someProject().projectPath())});
+    withWindow(
+        QStringLiteral("NewScenefrm"), [this] { action(QStringLiteral("projmen(1)")).trigger(); },
+        [&](QWidget& window) {
+            check(window, QStringLiteral("NewScenefrm"));
+            window.close();
+        });
+}
+
+TEST_P(AllWindows, Boxes) {
+    const std::vector<std::pair<const char*, Box>> boxesToShow = {
+        {"Box-plain", {.text = QStringLiteral("Saved folder exists")}},
+        {"Box-long",
+         {.text = QStringLiteral(
+              "One or more of your project's files have the 'Read Only' attribute set.  This "
+              "prevents changes you make to your project from being be saved, and can cause "
+              "Project Security failures (if on).\n\nIf this project is on a CD-ROM or other "
+              "non-writable media, you may browse the project.  However, you must copy it to your "
+              "hard drive if you wish to make any changes.\n"),
+          .title = QStringLiteral("WARNING: 'Read Only' attribute detected"),
+          .icon = Box::Icon::exclamation}},
+        {"Box-question",
+         {.text = QStringLiteral("Would you like to continue loading the project anyway?"),
+          .title = QStringLiteral("Error loading project!"),
+          .icon = Box::Icon::critical,
+          .buttons = Box::Buttons::yesNo}},
+        {"Box-path",
+         {.text = QStringLiteral("Could not locate:\n\n/home/") + QString(150, QLatin1Char('x')),
+          .title = QStringLiteral("File not found"),
+          .icon = Box::Icon::exclamation}},
+    };
+    forms::MessageBoxes real;
+    for (const auto& [name, box] : boxesToShow) {
+        withWindow(
+            QStringLiteral("Box"), [&] { real.show(box); },
+            [&](QWidget& window) {
+                check(window, QString::fromLatin1(name));
+                window.close();
+            });
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Looks, AllWindows, ::testing::Values(Look::light, Look::dark),
+                         [](const auto& one) {
+                             return one.param == Look::dark ? std::string("Dark")
+                                                            : std::string("Light");
+                         });
+
+/// The same windows in a process of its own, with `variable` set.
+void expectPassWith(const char* variable, const char* value) {
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QString::fromLatin1(variable), QString::fromLatin1(value));
+    environment.insert(QStringLiteral("QUORVEL_SCALED"), QString::fromLatin1(variable));
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QCoreApplication::applicationFilePath(),
+                  {QStringLiteral("--gtest_filter=Looks/AllWindows.*")});
+    ASSERT_TRUE(process.waitForFinished(100000));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 0) << process.readAll().toStdString();
+}
+
+TEST(AllWindowsScaled, PassAtDoubleScale) {
+    expectPassWith("QT_SCALE_FACTOR", "2");
+}
+
+TEST(AllWindowsScaled, PassWithLettersOfDoubleSize) {
+    expectPassWith("QUORVEL_DOUBLE_LETTERS", "1");
+}
+
+}  // namespace
+}  // namespace quorvel::test
