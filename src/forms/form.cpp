@@ -18,8 +18,9 @@ void Form::showEvent(QShowEvent* event) {
     if (event->spontaneous() || screen() == nullptr) {
         return;
     }
-    adjustSize();
     const QRect area = screen()->availableGeometry();
+    // Not adjustSize: that gives a window at most two thirds of the screen and squeezes its rows.
+    resize(sizeHint().expandedTo(minimumSize()).boundedTo(area.size()));
     const QSize size = frameGeometry().size();
     const bool large = area.width() > 800 && area.height() > 600;
     move(area.left() + (area.width() - size.width()) / 2,

@@ -44,6 +44,22 @@ TEST(Form, IsCentredOnItsScreen) {
     }
 }
 
+TEST(Form, ATallWindowGetsTheHeightThatItsRowsNeed) {
+    Window window;
+    const int screen = QGuiApplication::primaryScreen()->availableGeometry().height();
+    auto* tall = new QLabel(QStringLiteral("A picture"), &window);
+    tall->setMinimumHeight(10);
+    QString rows;
+    while (tall->sizeHint().height() < screen * 3 / 4) {
+        rows += QStringLiteral("a row\n");
+        tall->setText(rows);
+    }
+    window.layout()->addWidget(tall);
+    window.show();
+    EXPECT_GE(tall->height(), tall->sizeHint().height());
+    EXPECT_LE(window.height(), screen);
+}
+
 TEST(Form, ElementsAreNamedByIndex) {
     EXPECT_EQ(forms::elementName(QStringLiteral("Option1"), 2), QStringLiteral("Option1(2)"));
     EXPECT_EQ(forms::elementName(QStringLiteral("%2"), 0), QStringLiteral("%2(0)"));
