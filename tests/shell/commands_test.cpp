@@ -201,8 +201,9 @@ TEST_F(Commands, WithoutAProjectOnlyWhatNeedsNoneCanBeUsed) {
 }
 
 const std::set<std::string> kEnabledWithAProject = {
-    "Filemen(2)",  "Filemen(3)",  "Filemen(9)",  "Filemen(14)", "projmen(1)",  "projmen(12)",
-    "Toolbar1(1)", "Toolbar1(2)", "Toolbar1(5)", "Toolbar1(6)", "Toolbar1(7)", "Toolbar1(10)"};
+    "Filemen(2)",  "Filemen(3)",  "Filemen(9)",   "Filemen(14)", "projmen(1)",
+    "projmen(12)", "scnmen(3)",   "Toolbar1(1)",  "Toolbar1(2)", "Toolbar1(5)",
+    "Toolbar1(6)", "Toolbar1(7)", "Toolbar1(10)", "Toolbar1(23)"};
 
 TEST_F(Commands, AProjectEnablesItsEntriesAndClosingTakesThemBack) {
     const TestProject files = ProjectBuilder().build(projects.path());
@@ -212,6 +213,24 @@ TEST_F(Commands, AProjectEnablesItsEntriesAndClosingTakesThemBack) {
     EXPECT_FALSE(shell->project().ProjectOpen);
     EXPECT_EQ(enabledEntries(),
               (std::set<std::string>{"Filemen(2)", "Filemen(9)", "Filemen(14)", "Toolbar1(1)"}));
+}
+
+TEST_F(Commands, TwentyObjectsLeaveNoRoomForAnother) {
+    ProjectBuilder builder;
+    for (int slot = 1; slot <= 20; ++slot) {
+        builder.object(1, slot, 5, static_cast<std::int16_t>(10 * slot), 50);
+    }
+    const TestProject full = builder.build(projects.makeFolder("full"));
+    const TestProject free =
+        builder.editSlot(1, 7, [](store::ObjectSlotRecord& slot) { slot.SlotInt1 = -1; })
+            .build(projects.makeFolder("free"));
+    start({text(full.projectPath())});
+    EXPECT_FALSE(action(QStringLiteral("scnmen(3)")).isEnabled());
+    EXPECT_FALSE(tool(23).isEnabled());
+    dialogs.choice = text(free.projectPath());
+    tool(1).trigger();
+    EXPECT_TRUE(action(QStringLiteral("scnmen(3)")).isEnabled());
+    EXPECT_TRUE(tool(23).isEnabled());
 }
 
 TEST_F(Commands, AllThatNeedsAProjectFollowsIt) {

@@ -146,7 +146,7 @@ TEST_F(Damage, ALongLetterLooksLikeANewerProjectAndIsLeftAloneToo) {
     boxes.answer(forms::Answer::yes);
     start({text(letter)});
     ASSERT_EQ(boxes.shown().size(), 2U);
-    EXPECT_EQ(boxes.texts()[1], trapText("53 (File not found)"));
+    EXPECT_EQ(boxes.texts()[1], trapText("76 (Path not found)"));
     expectNoProject();
     leave();
     EXPECT_EQ(readBytes(letter), std::string(1000, 'x'));
