@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QPainter>
 #include <QPalette>
 #include <QStyleFactory>
 
@@ -51,15 +52,26 @@ QPalette lightPalette() {
 }
 
 QPalette darkPalette() {
-    return paletteOf({.window = QColor(0x2b2d30),
-                      .text = QColor(0xdfe2e5),
-                      .base = QColor(0x1f2123),
-                      .alternate = QColor(0x26282b),
-                      .button = QColor(0x3a3d41),
+    return paletteOf({.window = QColor(0x383b40),
+                      .text = QColor(0xe9ebed),
+                      .base = QColor(0x25272a),
+                      .alternate = QColor(0x2c2f33),
+                      .button = QColor(0x464a50),
                       .highlight = QColor(0x1f8f84),
                       .highlighted = QColor(0xffffff),
                       .link = QColor(0x4cc4b8),
-                      .disabled = QColor(0x7b8087)});
+                      .disabled = QColor(0x82878f)});
+}
+
+QPixmap faded(const QPixmap& pixmap) {
+    constexpr double kOpacity = 0.35;
+    QPixmap result(pixmap.size());
+    result.setDevicePixelRatio(pixmap.devicePixelRatio());
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    painter.setOpacity(kOpacity);
+    painter.drawImage(0, 0, pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied));
+    return result;
 }
 
 }  // namespace
@@ -88,6 +100,17 @@ QIcon icon(const QString& name) {
     const QString file = QStringLiteral(":/icons/%1.svg").arg(name);
     Q_ASSERT(QFile::exists(file));
     return QIcon(file);
+}
+
+QIcon buttonIcon(const QString& name) {
+    const QIcon drawing = icon(name);
+    QIcon result;
+    for (const int side : {20, 24, 40, 48}) {
+        const QPixmap pixmap = drawing.pixmap(QSize(side, side), 1.0);
+        result.addPixmap(pixmap);
+        result.addPixmap(faded(pixmap), QIcon::Disabled);
+    }
+    return result;
 }
 
 QString stockPicture(const QString& name) {

@@ -20,6 +20,10 @@ void applyLook(QApplication& application, Look look);
 /// the program.
 QIcon icon(const QString& name);
 
+/// The same for a button of 20 or 24 pixels, at normal and at double scale. Disabled it fades:
+/// greyed alone, an icon of few colours looks much the same on a dark bar.
+QIcon buttonIcon(const QString& name);
+
 /// The file of a stock picture in assets/stock, by name without ending; readable by Qt's readers.
 QString stockPicture(const QString& name);
 

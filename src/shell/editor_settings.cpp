@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "store/numbers.h"
-#include "store/paths.h"
 
 namespace quorvel::shell {
 namespace {
@@ -67,9 +66,8 @@ void EditorSettings::setFirstRunDefaults() {
 }
 
 void EditorSettings::rememberProject(const QString& path) {
-    const auto same = std::find_if(RecentProj.begin(), RecentProj.end(), [&](const QString& one) {
-        return store::sameName(one.toStdString(), path.toStdString());
-    });
+    // Paths come as they are spelt on disk, so another letter case is another project.
+    const auto same = std::find(RecentProj.begin(), RecentProj.end(), path);
     const auto last = same == RecentProj.end() ? std::prev(RecentProj.end()) : same;
     std::move_backward(RecentProj.begin(), last, std::next(last));
     RecentProj.front() = path;

@@ -90,7 +90,7 @@ void Main::buildToolBar() {
                                    tip, row.command, row.availability, row.kind);
         action->setToolTip(tip);
         if (*row.icon != '\0') {
-            action->setIcon(forms::icon(QString::fromLatin1(row.icon)));
+            action->setIcon(forms::buttonIcon(QString::fromLatin1(row.icon)));
         }
         toolBar_->addAction(action);
     }

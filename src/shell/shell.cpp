@@ -167,9 +167,6 @@ void Shell::showRequestedProject() {
         ResetShell();
         return;
     }
-    if (settings_.TipsAtStart == QStringLiteral("YesNow")) {
-        settings_.TipsAtStart = QStringLiteral("Yes");
-    }
     project_.OldSettings = false;
 }
 
@@ -182,6 +179,9 @@ void Shell::afterLoad() {
     refreshCommands();
     if (project_.OldSettings) {
         tellOldSettings();
+    }
+    if (settings_.TipsAtStart == QStringLiteral("YesNow")) {
+        settings_.TipsAtStart = QStringLiteral("Yes");
     }
 }
 
