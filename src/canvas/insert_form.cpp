@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QShowEvent>
 #include <QTimer>
@@ -76,30 +75,13 @@ void newlink::build(const std::function<void()>& help) {
     index->addSpacing(forms::kFormSpacing);
     index->addWidget(hint, 1);
 
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    QPushButton* go = addButton(buttons, QStringLiteral("Command3"), QStringLiteral("Continue"));
-    QPushButton* cancel = addButton(buttons, QStringLiteral("Command2"), QStringLiteral("Cancel"));
-    QPushButton* helpButton =
-        addButton(buttons, QStringLiteral("Command4"), QStringLiteral("Help"));
-    go->setDefault(true);
-    cancel->setAutoDefault(false);
-    helpButton->setAutoDefault(false);
-    helpButton->setEnabled(help != nullptr);
-
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(forms::kFormMargin, forms::kFormMargin, forms::kFormMargin,
-                               forms::kFormMargin);
-    column->setSpacing(forms::kFormSpacing);
+    QVBoxLayout* column = makeColumn();
     column->addWidget(frame);
     column->addLayout(index);
-    column->addLayout(buttons);
-
-    connect(go, &QPushButton::clicked, this, [this] { Command3_Click(); });
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    if (help) {
-        connect(helpButton, &QPushButton::clicked, this, help);
-    }
+    addButtonRow(column, {{"Command3", "Continue", [this] { Command3_Click(); },
+                           forms::FormButton::Role::byEnter},
+                          {"Command2", "Cancel", [this] { reject(); }},
+                          {"Command4", "Help", help}});
 }
 
 void newlink::showEvent(QShowEvent* event) {

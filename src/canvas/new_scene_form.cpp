@@ -1,7 +1,6 @@
 #include "canvas/new_scene_form.h"
 
 #include <QGroupBox>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
@@ -28,29 +27,12 @@ NewScenefrm::NewScenefrm(SceneKeeper& keeper, const std::function<void()>& help,
     }
     options_.front()->setChecked(true);
 
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    QPushButton* go = addButton(buttons, QStringLiteral("Command3"), QStringLiteral("Continue"));
-    QPushButton* cancel = addButton(buttons, QStringLiteral("Command2"), QStringLiteral("Cancel"));
-    QPushButton* helpButton =
-        addButton(buttons, QStringLiteral("Command4"), QStringLiteral("Help"));
-    go->setDefault(true);
-    cancel->setAutoDefault(false);
-    helpButton->setAutoDefault(false);
-    helpButton->setEnabled(help != nullptr);
-
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(forms::kFormMargin, forms::kFormMargin, forms::kFormMargin,
-                               forms::kFormMargin);
-    column->setSpacing(forms::kFormSpacing);
+    QVBoxLayout* column = makeColumn();
     column->addWidget(frame);
-    column->addLayout(buttons);
-
-    connect(go, &QPushButton::clicked, this, [this] { Command3_Click(); });
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    if (help) {
-        connect(helpButton, &QPushButton::clicked, this, help);
-    }
+    addButtonRow(column, {{"Command3", "Continue", [this] { Command3_Click(); },
+                           forms::FormButton::Role::byEnter},
+                          {"Command2", "Cancel", [this] { reject(); }},
+                          {"Command4", "Help", help}});
 }
 
 void NewScenefrm::Command3_Click() {

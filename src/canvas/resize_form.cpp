@@ -81,35 +81,17 @@ void ResizeD::build(const std::function<void()>& help) {
     heading->addSpacing(forms::kFormSpacing);
     heading->addWidget(caption, 1);
 
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    applyButton_ = addButton(buttons, QStringLiteral("Command1"), QStringLiteral("Apply"));
-    QPushButton* cancel = addButton(buttons, QStringLiteral("Command2"), QStringLiteral("Cancel"));
-    QPushButton* ok = addButton(buttons, QStringLiteral("Command3"), QStringLiteral("OK"));
-    QPushButton* helpButton =
-        addButton(buttons, QStringLiteral("Command4"), QStringLiteral("Help"));
-    ok->setDefault(true);
-    for (QPushButton* button : {applyButton_, cancel, helpButton}) {
-        button->setAutoDefault(false);
-    }
-    applyButton_->setEnabled(false);
-    helpButton->setEnabled(help != nullptr);
-
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(forms::kFormMargin, forms::kFormMargin, forms::kFormMargin,
-                               forms::kFormMargin);
-    column->setSpacing(forms::kFormSpacing);
+    QVBoxLayout* column = makeColumn();
     column->addLayout(heading);
     column->addWidget(buildOptions());
     column->addWidget(buildSizes());
-    column->addLayout(buttons);
-
-    connect(applyButton_, &QPushButton::clicked, this, &ResizeD::apply);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(ok, &QPushButton::clicked, this, &ResizeD::Command3_Click);
-    if (help) {
-        connect(helpButton, &QPushButton::clicked, this, help);
-    }
+    const auto buttons = addButtonRow(
+        column, {{"Command1", "Apply", [this] { apply(); }},
+                 {"Command2", "Cancel", [this] { reject(); }},
+                 {"Command3", "OK", [this] { Command3_Click(); }, forms::FormButton::Role::byEnter},
+                 {"Command4", "Help", help}});
+    applyButton_ = buttons.front();
+    applyButton_->setEnabled(false);
 }
 
 QWidget* ResizeD::buildOptions() {

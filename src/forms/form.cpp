@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QShowEvent>
+#include <QVBoxLayout>
 
 namespace quorvel::forms {
 
@@ -25,6 +26,34 @@ void Form::showEvent(QShowEvent* event) {
     const bool large = area.width() > 800 && area.height() > 600;
     move(area.left() + (area.width() - size.width()) / 2,
          large ? area.top() + (area.height() - size.height()) / 2 : area.top());
+}
+
+QVBoxLayout* Form::makeColumn() {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(kFormMargin, kFormMargin, kFormMargin, kFormMargin);
+    column->setSpacing(kFormSpacing);
+    return column;
+}
+
+std::vector<QPushButton*> Form::addButtonRow(QVBoxLayout* column,
+                                             const std::vector<FormButton>& buttons) {
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    std::vector<QPushButton*> made;
+    for (const FormButton& spec : buttons) {
+        QPushButton* button =
+            addButton(row, QString::fromLatin1(spec.name), QString::fromLatin1(spec.caption));
+        const bool byEnter = spec.role == FormButton::Role::byEnter;
+        button->setAutoDefault(byEnter);
+        button->setDefault(byEnter);
+        button->setEnabled(spec.onClick != nullptr);
+        if (spec.onClick) {
+            connect(button, &QPushButton::clicked, this, spec.onClick);
+        }
+        made.push_back(button);
+    }
+    column->addLayout(row);
+    return made;
 }
 
 QPushButton* Form::addButton(QBoxLayout* row, const QString& name, const QString& caption) {

@@ -1,13 +1,27 @@
 /// What all windows of the editor share.
 #pragma once
 
+#include <functional>
+#include <vector>
+
 #include <QDialog>
 #include <QString>
 
 class QBoxLayout;
 class QPushButton;
+class QVBoxLayout;
 
 namespace quorvel::forms {
+
+/// A button at the foot of a window. Without an answer it is disabled.
+struct FormButton {
+    enum class Role : std::uint8_t { ordinary, byEnter };  ///< `byEnter`: Enter clicks it
+
+    const char* name;
+    const char* caption;
+    std::function<void()> onClick;
+    Role role = Role::ordinary;
+};
 
 /// A modal window. On a screen over 800 wide and over 600 high it opens in the middle, on a smaller
 /// one at the top.
@@ -19,6 +33,12 @@ class Form : public QDialog {
 
   protected:
     void showEvent(QShowEvent* event) override;
+
+    /// The column that a window's groups stand in, from top to bottom.
+    QVBoxLayout* makeColumn();
+    /// The row of buttons at the foot of a window. Returns them in the order given.
+    std::vector<QPushButton*> addButtonRow(QVBoxLayout* column,
+                                           const std::vector<FormButton>& buttons);
 
     /// A button with its system name and caption, at the end of `row`.
     QPushButton* addButton(QBoxLayout* row, const QString& name, const QString& caption);

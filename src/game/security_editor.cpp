@@ -4,7 +4,6 @@
 
 #include <QGroupBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QShowEvent>
 #include <QVBoxLayout>
@@ -40,30 +39,16 @@ void ProjSecurity::build(const std::function<void()>& help) {
     hint->setObjectName(QStringLiteral("Label1"));
     hint->setWordWrap(true);
 
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    QPushButton* ok = addButton(buttons, QStringLiteral("Command1"), QStringLiteral("OK"));
-    QPushButton* helpButton =
-        addButton(buttons, QStringLiteral("Command2"), QStringLiteral("Help"));
-    ok->setDefault(true);
-    helpButton->setAutoDefault(false);
-    helpButton->setEnabled(help != nullptr);
-
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(forms::kFormMargin, forms::kFormMargin, forms::kFormMargin,
-                               forms::kFormMargin);
-    column->setSpacing(forms::kFormSpacing);
+    QVBoxLayout* column = makeColumn();
     column->addWidget(frame);
     column->addWidget(hint);
-    column->addLayout(buttons);
+    addButtonRow(
+        column, {{"Command1", "OK", [this] { Command1_Click(); }, forms::FormButton::Role::byEnter},
+                 {"Command2", "Help", help}});
     setMinimumWidth(360);
 
     connect(on_, &QRadioButton::clicked, this, [this] { Option1_Click(0); });
     connect(off_, &QRadioButton::clicked, this, [this] { Option1_Click(1); });
-    connect(ok, &QPushButton::clicked, this, [this] { Command1_Click(); });
-    if (help) {
-        connect(helpButton, &QPushButton::clicked, this, help);
-    }
 }
 
 void ProjSecurity::showEvent(QShowEvent* event) {
