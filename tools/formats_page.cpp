@@ -5,6 +5,7 @@
 #include <iostream>
 #include <string>
 
+#include "store/objects.h"
 #include "store/records.h"
 
 namespace {
@@ -12,6 +13,10 @@ namespace {
 using quorvel::store::allRecords;
 using quorvel::store::elementName;
 using quorvel::store::FieldInfo;
+using quorvel::store::FieldUse;
+using quorvel::store::kObjectTypes;
+using quorvel::store::ObjectFieldInfo;
+using quorvel::store::ObjectType;
 using quorvel::store::RecordInfo;
 
 constexpr std::string_view kIntroduction = R"(# The files of a Quorvel project
@@ -172,12 +177,84 @@ void printRecord(std::ostream& out, const RecordInfo& record) {
     }
 }
 
+/// What a field of an object holds, for somebody who reads its number.
+std::string_view rangeOf(FieldUse use) {
+    switch (use) {
+        case FieldUse::gfxFile:
+            return "file in `resource/gfx`";
+        case FieldUse::mediaFile:
+            return "file in `resource/mmedia`";
+        case FieldUse::decimalText:
+            return "decimal number as text";
+        case FieldUse::check:
+            return "0 or 1";
+        case FieldUse::option:
+            return "number of an option, from 1";
+        case FieldUse::scene:
+            return "scene, 0 for none";
+        case FieldUse::item:
+            return "item, 0 for none";
+        case FieldUse::location:
+            return "location, 0 for none";
+        case FieldUse::card:
+            return "cue card, 0 for none";
+        case FieldUse::pointer:
+            return "index of a mouse pointer, 0 is the normal one";
+        case FieldUse::channel:
+            return "sound channel: 0 automatic, 1 to 13, 14 persistent, 15 dialogue";
+        case FieldUse::flag:
+            return "flag, 1 to 255";
+        case FieldUse::comparison:
+            return "0 =, 1 <>, 2 <, 3 >";
+        case FieldUse::value:
+            return "any number";
+        case FieldUse::volume:
+            return "-4000 to 0, 0 is full";
+        case FieldUse::pan:
+            return "-4000 left to 4000 right";
+        case FieldUse::movieVolume:
+            return "0 to 100";
+        case FieldUse::seconds:
+            return "0 to 65";
+    }
+    return "";
+}
+
+void printObjectType(std::ostream& out, ObjectType type) {
+    out << "\n### " << static_cast<int>(type) << ": " << quorvel::store::typeName(type) << "\n\n"
+        << "| Field | Name | Holds | Meaning | At insertion |\n| --- | --- | --- | --- | --- |\n";
+    for (const ObjectFieldInfo& field : quorvel::store::objectFields(type)) {
+        out << "| " << code((field.isText ? "SlotStr" : "SlotInt") + std::to_string(field.number))
+            << " | " << field.name << " | " << cell(rangeOf(field.use)) << " | "
+            << cell(field.meaning) << " | "
+            << (field.isText ? newTextOf(field.newText) : std::to_string(field.newNumber))
+            << " |\n";
+    }
+}
+
+constexpr std::string_view kObjects = R"(
+## Objects by type
+
+What the fields of an `ObjectSlot` mean depends on the type in `SlotInt1`. `SlotInt2` and `SlotInt3` are
+the place of every type. A field that a type does not list is 0 or blank after an insertion, but
+`SlotInt30` to `SlotInt36`, which keep what the new record gave them. A type that is not listed here
+was made by a newer version: such an object is kept as it is.
+)";
+
+void printObjects(std::ostream& out) {
+    out << kObjects;
+    for (int type = 0; type < kObjectTypes; ++type) {
+        printObjectType(out, static_cast<ObjectType>(type));
+    }
+}
+
 void printPage(std::ostream& out) {
     out << kIntroduction;
     printOverview(out);
     for (const RecordInfo& record : allRecords()) {
         printRecord(out, record);
     }
+    printObjects(out);
 }
 
 }  // namespace
