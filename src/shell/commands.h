@@ -85,6 +85,7 @@ struct MenuHead {
 /// One position of the tool bar, 1 to 33.
 struct ToolPosition {
     int position;
+    const char* key;  ///< system name of the button, empty for none
     const char* toolTip;
     const char* icon;
     Command command = Command::none;

@@ -89,6 +89,7 @@ void Main::buildToolBar() {
         QAction* action = addEntry(forms::elementName(QStringLiteral("Toolbar1"), row.position),
                                    tip, row.command, row.availability, row.kind);
         action->setToolTip(tip);
+        action->setProperty("key", QString::fromLatin1(row.key));
         if (*row.icon != '\0') {
             action->setIcon(forms::buttonIcon(QString::fromLatin1(row.icon)));
         }

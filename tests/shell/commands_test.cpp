@@ -174,6 +174,16 @@ TEST_F(Commands, EveryMenuEntryStandsAsItIsNamed) {
     }
 }
 
+/// The keys of the tool bar's buttons; the other positions have none.
+const std::map<int, const char*> kToolKeys = {
+    {1, "Open"},          {2, "Close"},     {4, "ProjInformation"}, {5, "ProjSec"},
+    {9, "SceneMatic"},    {10, "addscene"}, {11, "editlocations"},  {12, "edititems"},
+    {13, "editcues"},     {14, "editmp"},   {15, "edtext"},         {16, "gengamesettings"},
+    {17, "customplayer"}, {18, "LogCred"},  {19, "GameInt"},        {20, "projrep"},
+    {22, "scnproperts"},  {23, "newob"},    {25, "runPlayer"},      {26, "runANIM"},
+    {27, "rungrafix"},    {28, "runicon"},  {29, "runwav"},         {30, "runmidi"},
+    {31, "runavi"}};
+
 TEST_F(Commands, TheToolBarHasThirtyThreePositions) {
     start();
     const QList<QAction*> positions =
@@ -186,6 +196,9 @@ TEST_F(Commands, TheToolBarHasThirtyThreePositions) {
         EXPECT_EQ(one->isVisible(), !kHiddenTools.contains(n));
         EXPECT_EQ(one->isSeparator(), kToolGaps.contains(n));
         EXPECT_EQ(one->isCheckable(), n == 6 || n == 7);
+        const auto key = kToolKeys.find(n);
+        EXPECT_EQ(one->property("key").toString(),
+                  key == kToolKeys.end() ? QString() : q(key->second));
         if (const auto tip = kToolTips.find(n); tip != kToolTips.end()) {
             EXPECT_EQ(one->toolTip(), q(tip->second));
             EXPECT_FALSE(one->icon().isNull());
