@@ -143,12 +143,15 @@ TEST_F(FileHandleTest, AWriteIsOneCallToTheSystem) {
     if (before == 0 && systemWrites() == 0) {
         GTEST_SKIP() << "this system does not count the calls of a process";
     }
-    file.writeAt(0, record);
-    file.writeAt(4395, record);
-    file.writeAt(0, record);
-    EXPECT_EQ(systemWrites() - before, 3U);
+    constexpr std::uint64_t kWrites = 100;
+    for (std::uint64_t i = 0; i < kWrites; ++i) {
+        file.writeAt(i % 2 * record.size(), record);
+    }
     file.close();
-    EXPECT_EQ(systemWrites() - before, 3U);
+    const std::uint64_t calls = systemWrites() - before;
+    EXPECT_GE(calls, kWrites);
+    // A sanitizer makes a few calls of its own; a second call for each write would be a hundred.
+    EXPECT_LT(calls, kWrites + kWrites / 2);
 }
 
 TEST_F(FileHandleTest, AProgramThatIsStartedDoesNotInheritTheFile) {
