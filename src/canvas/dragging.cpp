@@ -58,6 +58,7 @@ Dragging::Dragging(SceneView& view)
     for (SceneElement* element : view.movableElements()) {
         element->installEventFilter(this);
     }
+    connect(&view_, &SceneView::leaving, this, &Dragging::cancel);
 }
 
 bool Dragging::eventFilter(QObject* watched, QEvent* event) {
@@ -68,7 +69,8 @@ bool Dragging::eventFilter(QObject* watched, QEvent* event) {
     if (element == nullptr) {
         return false;
     }
-    if (event->type() == QEvent::MouseButtonPress) {
+    // The press of a drag that follows quickly upon another is a double click to the system.
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
         return pressed(*element, *event);
     }
     return event->type() == QEvent::KeyPress && keyPressed(*element, *event);
@@ -91,9 +93,10 @@ void Dragging::take(SceneElement& element, QPoint grip) {
     DragIndex = isObject(element) ? element.index() : kLinkIndex;
     DragOffsetX = grip.x();
     DragOffsetY = grip.y();
-    element.setFocus(Qt::MouseFocusReason);
     carried_ = &element;
     ghost_->showAs(element);
+    // Taken over, or hiding the element would hand the focus to the next one.
+    ghost_->setFocus(Qt::MouseFocusReason);
     element.hide();
     view_.hideBorderOf(element);
     // The pointer may leave the window and come back.
@@ -152,12 +155,12 @@ void Dragging::drop(QPoint global) {
 void Dragging::letGo() {
     qApp->removeEventFilter(this);
     ghost_->releaseMouse();
-    ghost_->hide();
     SceneElement* element = carried_;
     carried_ = nullptr;
     DraggingObject = 0;
     element->setShown(true);
     element->setFocus(Qt::MouseFocusReason);
+    ghost_->hide();
 }
 
 void Dragging::cancel() {

@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 
+#include "canvas/focus_outline.h"
 #include "canvas/insert_form.h"
 #include "canvas/object_kinds.h"
 #include "canvas/resize_form.h"
@@ -38,6 +39,8 @@ ObjectActions::ObjectActions(const House& house)
         element->setFocusPolicy(Qt::TabFocus);
     }
     house_.view.imageElement().installEventFilter(this);
+    // Made last: it has to see the keys that the others take.
+    new FocusOutline(house_.view.movableElements(), &house_.view.canvas());
 }
 
 bool ObjectActions::eventFilter(QObject* watched, QEvent* event) {

@@ -111,6 +111,7 @@ void SceneView::ClearSceneImage() {
 }
 
 void SceneView::ClearCanvas() {
+    Q_EMIT leaving();
     setObjectAlert(false);
     setSceneAlert(false);
     linksPlaced_ = false;
@@ -120,6 +121,7 @@ void SceneView::ClearCanvas() {
 }
 
 void SceneView::ResetCanvas() {
+    Q_EMIT leaving();
     ToggleAnimations(false);
     ToggleBorders(false);
     ClearSceneImage();

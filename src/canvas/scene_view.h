@@ -109,6 +109,8 @@ class SceneView : public QWidget {
     [[nodiscard]] StatusText statusOf(const SceneElement& element) const;
 
   Q_SIGNALS:
+    /// The scene is about to leave the canvas: what is being done to it has to end.
+    void leaving();
     void sceneAlertChanged(bool on);
     void objectAlertChanged(bool on);
     /// The objects were counted; at 20 no more can be inserted.

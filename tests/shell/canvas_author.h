@@ -1,0 +1,107 @@
+/// An author who works on the canvas of the real window, for the tests of this folder.
+#pragma once
+
+#include <QApplication>
+#include <QComboBox>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTest>
+
+#include "support/windows/shell_fixture.h"
+
+inline void PrintTo(const QPoint& point, std::ostream* out) {
+    *out << point.x() << ", " << point.y();
+}
+inline void PrintTo(const QRect& rect, std::ostream* out) {
+    *out << rect.x() << ", " << rect.y() << ", " << rect.width() << " by " << rect.height();
+}
+
+namespace quorvel::test {
+
+class CanvasAuthor : public ShellFixture {
+  protected:
+    void open(const ProjectBuilder& builder) { openIn(projects.path(), builder); }
+    void openIn(const std::filesystem::path& folder, const ProjectBuilder& builder) {
+        files = builder.build(folder);
+        start({text(files.projectPath())});
+    }
+
+    QWidget& element(const char* name, int index) {
+        return control<QWidget>(main(),
+                                QStringLiteral("%1(%2)").arg(QString::fromLatin1(name)).arg(index));
+    }
+    QWidget& object(int k) { return element("Animation", k); }
+    QWidget& quickSpot(int k) { return element("NoGIF", k); }
+    QWidget& link(int n) { return element("Directionl", n); }
+    QWidget& ghost() { return control<QWidget>(main(), QStringLiteral("DragGhost")); }
+    QPushButton& button(const char* name) {
+        return control<QPushButton>(main(), QString::fromLatin1(name));
+    }
+    canvas::Dragging& dragging() { return shell->actions().dragging(); }
+    store::ObjectSlot& slot(int k) { return shell->scene().slot(k); }
+    QPoint placeInSlot(int k) { return {slot(k).SlotInt(2), slot(k).SlotInt(3)}; }
+
+    /// A point of the canvas as the ghost sees it.
+    QPoint underGhost(QPoint canvas) {
+        return ghost().mapFrom(&main().view(),
+                               main().view().canvas().mapTo(&main().view(), canvas));
+    }
+    void take(QWidget& carried, QPoint grip) {
+        mouse(carried, QEvent::MouseButtonPress, grip, Qt::LeftButton);
+    }
+    void moveTo(QPoint canvas) {
+        mouse(ghost(), QEvent::MouseMove, underGhost(canvas), Qt::NoButton);
+    }
+    void letGo(QPoint canvas) {
+        mouse(ghost(), QEvent::MouseButtonRelease, underGhost(canvas), Qt::LeftButton);
+    }
+    /// Takes `carried` at `grip` and lets go at a point of the canvas.
+    void carry(QWidget& carried, QPoint grip, QPoint to) {
+        take(carried, grip);
+        moveTo(to);
+        letGo(to);
+    }
+
+    /// Leaves scene 1 for the next one, which writes it.
+    void leaveScene() { button("Command6").click(); }
+    /// A number of the object in slot `k` of a scene as the store has it, by its offset.
+    [[nodiscard]] std::int16_t stored(int scene, int k, int offset) const {
+        return readInt(files.storePath(1),
+                       static_cast<std::uintmax_t>((scene - 1) * 4395 + 255 + (k - 1) * 207) +
+                           static_cast<std::uintmax_t>(offset));
+    }
+    [[nodiscard]] QPoint storedPlace(int scene, int k) const {
+        return {stored(scene, k, 2), stored(scene, k, 4)};
+    }
+    [[nodiscard]] std::string storedSlot(int scene, int k) const {
+        return readBytes(files.storePath(1),
+                         static_cast<std::uintmax_t>((scene - 1) * 4395 + 255 + (k - 1) * 207),
+                         207);
+    }
+    /// Top, left, width and height of the edge link whose rectangle begins at `offset`.
+    [[nodiscard]] std::array<int, 4> storedLink(int scene, int offset) const {
+        std::array<int, 4> sides{};
+        for (std::size_t i = 0; i < sides.size(); ++i) {
+            sides[i] = readInt(files.storePath(1),
+                               static_cast<std::uintmax_t>((scene - 1) * 4395 + offset) + 2 * i);
+        }
+        return sides;
+    }
+    static constexpr int kUp = 223;
+    static constexpr int kDown = 231;
+    static constexpr int kLeft = 239;
+    static constexpr int kRight = 247;
+
+    TestProject files;
+
+  private:
+    /// Sent to the widget itself: the functions of QTest take a point 0, 0 for the middle.
+    static void mouse(QWidget& widget, QEvent::Type type, QPoint at, Qt::MouseButton button) {
+        const Qt::MouseButtons held =
+            type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent event(type, QPointF(at), QPointF(widget.mapToGlobal(at)), button, held, {});
+        QApplication::sendEvent(&widget, &event);
+    }
+};
+
+}  // namespace quorvel::test
