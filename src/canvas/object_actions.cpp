@@ -39,6 +39,9 @@ ObjectActions::ObjectActions(const House& house)
         element->setFocusPolicy(Qt::TabFocus);
     }
     house_.view.imageElement().installEventFilter(this);
+    connect(&house_.view, &SceneView::objectCountChanged, this, [this](int count) {
+        menus_.setAvailable(PopupMenu::scene, PopupAction::insertObject, count < store::kSlotCount);
+    });
     // Made last: it has to see the keys that the others take.
     new FocusOutline(house_.view.movableElements(), &house_.view.canvas());
 }
@@ -126,8 +129,6 @@ void ObjectActions::openSceneMenu(QPoint screen, QPoint at) {
     prepareJump(PopupMenu::scene, PopupAction::jump,
                 house_.scene.header(store::HeaderInt::SceneCheckFlagTarget));
     menus_.setAvailable(PopupMenu::scene, PopupAction::properties, sceneEditor_ != nullptr);
-    menus_.setAvailable(PopupMenu::scene, PopupAction::insertObject,
-                        house_.scene.objectCount() < store::kSlotCount);
     menus_.menu(PopupMenu::scene).popup(screen);
 }
 
@@ -142,6 +143,9 @@ QString ObjectActions::sceneText(int number) const {
 
 void ObjectActions::prepareJump(PopupMenu menu, PopupAction jump, int target) {
     jumps_[jump] = target;
+    if (jump == PopupAction::jump) {
+        JumpTarget = target;
+    }
     menus_.prepareJump(menu, jump, sceneText(target));
 }
 
