@@ -3,10 +3,12 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTest>
 
+#include "support/gif_bytes.h"
 #include "support/windows/shell_fixture.h"
 
 inline void PrintTo(const QPoint& point, std::ostream* out) {
@@ -36,6 +38,28 @@ class CanvasAuthor : public ShellFixture {
     QWidget& ghost() { return control<QWidget>(main(), QStringLiteral("DragGhost")); }
     QPushButton& button(const char* name) {
         return control<QPushButton>(main(), QString::fromLatin1(name));
+    }
+    /// Two scenes, and pictures of 40 by 30 pixels for the first.
+    static ProjectBuilder scenes() {
+        return ProjectBuilder()
+            .scenes(2)
+            .gfx("a.gif", stillGif(40, 30))
+            .gfx("dot.gif", stillGif(1, 1));
+    }
+    static ProjectBuilder withQuickSpot() {
+        return scenes().object(1, 4, 1, 200, 150).editSlot(1, 4, [](auto& record) {
+            record.SlotInt4To29[29 - 4] = 1;
+            record.SlotStr[5 - 1] = "50";
+            record.SlotStr[6 - 1] = "60";
+        });
+    }
+    bool alertShown() { return button("ObjAlert").isVisible(); }
+    QStringList status() {
+        QStringList panels;
+        for (int i = 1; i <= 4; ++i) {
+            panels << control<QLabel>(main(), QStringLiteral("StatusBar1(%1)").arg(i)).text();
+        }
+        return panels;
     }
     canvas::Dragging& dragging() { return shell->actions().dragging(); }
     store::ObjectSlot& slot(int k) { return shell->scene().slot(k); }

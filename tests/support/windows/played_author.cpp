@@ -63,11 +63,18 @@ QWidget* visibleWindow(const QString& name) {
 
 void withWindow(const QString& name, const std::function<void()>& routine,
                 const std::function<void(QWidget&)>& author) {
+    constexpr int kPatienceMs = 2000;
     bool used = false;
+    QElapsedTimer waited;
+    waited.start();
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, [&] {
         QWidget* window = visibleWindow(name);
         if (window == nullptr || used) {
+            return;
+        }
+        // Keys go where the focus is, and that is nowhere before the window is active.
+        if (!window->isActiveWindow() && waited.elapsed() < kPatienceMs) {
             return;
         }
         used = true;
