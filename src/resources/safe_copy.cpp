@@ -1,0 +1,148 @@
+#include "resources/safe_copy.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <span>
+#include <string>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "store/file_handle.h"
+#include "store/runtime_error.h"
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace quorvel::resources {
+namespace {
+
+namespace fs = std::filesystem;
+using store::ErrorNumber;
+using store::RuntimeError;
+
+constexpr std::size_t kPiece = std::size_t{1} << 20;
+/// More files than that cannot have been left by editors that were killed in the middle of a copy.
+constexpr int kMostLeftovers = 1000;
+
+[[noreturn]] void fail(const fs::path& path, std::error_code error) {
+    throw RuntimeError(store::errorNumberOf(error), path);
+}
+
+std::error_code lastError() {
+    return {errno, std::generic_category()};
+}
+
+/// Creates a file that must not exist yet; null when it does or cannot be made.
+std::FILE* createNew(const fs::path& path) {
+    errno = 0;
+#ifdef _WIN32
+    return _wfopen(path.c_str(), L"wbxN");
+#else
+    return std::fopen(path.c_str(), "wbxe");
+#endif
+}
+
+/// Brings what was written down to the disk; false leaves the reason in errno.
+bool syncToDisk(std::FILE* file) {
+#ifdef _WIN32
+    return _commit(_fileno(file)) == 0;
+#else
+    // A file system that knows no such thing says EINVAL.
+    return ::fsync(fileno(file)) == 0 || errno == EINVAL;
+#endif
+}
+
+/// A new file beside another, which is gone at the end unless it has taken that one's name.
+class FileBeside {
+  public:
+    explicit FileBeside(fs::path target) : target_(std::move(target)) {
+        for (int i = 0; i < kMostLeftovers && file_ == nullptr; ++i) {
+            path_ = target_.parent_path() / ("~quorvel" + std::to_string(i) + ".tmp");
+            file_.reset(createNew(path_));
+            if (file_ == nullptr && errno != EEXIST) {
+                refuse();
+            }
+        }
+        if (file_ == nullptr) {
+            throw RuntimeError(ErrorNumber::fileExists, path_);
+        }
+        std::setvbuf(file_.get(), nullptr, _IONBF, 0);
+    }
+    ~FileBeside() {
+        file_.reset();
+        if (!path_.empty()) {
+            std::error_code ignored;
+            fs::remove(path_, ignored);
+        }
+    }
+    FileBeside(const FileBeside&) = delete;
+    FileBeside& operator=(const FileBeside&) = delete;
+
+    void write(std::span<const char> bytes) {
+        errno = 0;
+        if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size()) {
+            fail(target_, lastError());
+        }
+    }
+
+    void takeName() {
+        errno = 0;
+        if (std::fflush(file_.get()) != 0 || !syncToDisk(file_.get()) ||
+            std::fclose(file_.release()) != 0) {
+            fail(target_, lastError());
+        }
+        std::error_code error;
+        fs::rename(path_, target_, error);
+        if (error) {
+            fail(target_, error);
+        }
+        path_.clear();
+    }
+
+  private:
+    struct Closer {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+
+    [[noreturn]] void refuse() const {
+        const std::error_code error = lastError();
+        // The file itself is new, so it is the folder that was not found.
+        if (error == std::errc::no_such_file_or_directory) {
+            throw RuntimeError(ErrorNumber::pathNotFound, target_);
+        }
+        fail(target_, error);
+    }
+
+    fs::path target_;
+    fs::path path_;
+    std::unique_ptr<std::FILE, Closer> file_;
+};
+
+}  // namespace
+
+void copySafely(const fs::path& source, const fs::path& target, const CopyProgress& progress) {
+    store::FileHandle from = store::FileHandle::open(source);
+    const std::uintmax_t total = from.size();
+    FileBeside copy(target);
+    std::vector<char> piece(kPiece);
+    std::uintmax_t done = 0;
+    while (const std::size_t count = from.readAt(done, piece)) {
+        copy.write(std::span(piece).first(count));
+        done += count;
+        if (progress) {
+            progress(done, total);
+        }
+    }
+    // A source that gave less than it promised is not one that may be deleted afterwards.
+    if (done < total) {
+        throw RuntimeError(ErrorNumber::deviceError, source);
+    }
+    copy.takeName();
+}
+
+}  // namespace quorvel::resources

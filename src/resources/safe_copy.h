@@ -1,0 +1,23 @@
+/// Copying a file so that a failure leaves everything as it was.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+
+namespace quorvel::resources {
+
+/// Told after each piece: bytes written so far and bytes in all.
+using CopyProgress = std::function<void(std::uintmax_t done, std::uintmax_t total)>;
+
+/// Copies the regular file `source` to `target`. The bytes go into a file of another name beside
+/// `target`, down to the disk, and that one is then renamed, so `target` is at every moment either
+/// the old file or the whole new one. A link at `target` is replaced, not followed. The copy is
+/// writable, not executable, and bears the present time, by which caches see that it is new.
+///
+/// Throws `store::RuntimeError` with the file that refused; what `progress` throws comes through.
+/// In both cases `target` is as before and nothing else is left behind.
+void copySafely(const std::filesystem::path& source, const std::filesystem::path& target,
+                const CopyProgress& progress = {});
+
+}  // namespace quorvel::resources
