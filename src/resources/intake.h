@@ -98,6 +98,7 @@ class Intake {
     bool CheckReplace(const std::filesystem::path& target);
 
     [[nodiscard]] IntakeRules rules() const { return rules_(); }
+    [[nodiscard]] std::filesystem::path projectFolder() const { return project_.folder(); }
     /// The project's folder for files of that kind, as spelt on disk.
     [[nodiscard]] std::filesystem::path targetFolder(store::ResourceFolder kind) const;
     /// The folder "incoming" beside the editor, as spelt on disk.
