@@ -65,6 +65,14 @@ void EditorSettings::setFirstRunDefaults() {
     RunProgram.fill(kUndefinedProgram);
 }
 
+void EditorSettings::RestoreQuickTips() {
+    values_.remove(kNoTipsAtAll);
+    for (int tip = 1; tip <= kQuickTips; ++tip) {
+        values_.remove(kNoTip + QString::number(tip));
+    }
+    values_.sync();
+}
+
 void EditorSettings::rememberProject(const QString& path) {
     // Paths come as they are spelt on disk, so another letter case is another project.
     const auto same = std::find(RecentProj.begin(), RecentProj.end(), path);

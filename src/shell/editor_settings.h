@@ -14,6 +14,12 @@ inline const QString kEditorVersion = QStringLiteral("3.03.0001");
 /// A slot of the Run menu without a program.
 inline const QString kUndefinedProgram = QStringLiteral("Undefined");
 
+// Quick Tips that were turned off: these values are "1". A tip's number, 1 to 21, follows the
+// second name.
+inline constexpr int kQuickTips = 21;
+inline const QString kNoTipsAtAll = QStringLiteral("NoTipsAtAll");
+inline const QString kNoTip = QStringLiteral("NoTip");
+
 /// Named string values under organisation "TessaroonWorks", application "Quorvel": a registry key
 /// on Windows, an ini file elsewhere. Numbers are stored as decimal text.
 class EditorSettings {
@@ -38,6 +44,9 @@ class EditorSettings {
     /// True before the editor ever ran: neither folder choice is set.
     [[nodiscard]] bool isFirstRun() const { return DefaultFolder == 0 && WrongFolder == 0; }
     void setFirstRunDefaults();
+
+    /// Brings back all Quick Tips, those turned off one by one and those turned off together.
+    void RestoreQuickTips();
 
     /// The value, or an empty text when there is none.
     [[nodiscard]] QString ReadRegValue(const QString& name) const;

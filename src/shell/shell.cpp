@@ -24,7 +24,17 @@ using forms::Box;
 Shell::Shell(Surroundings surroundings)
     : surroundings_(std::move(surroundings)),
       traps_(surroundings_.boxes, project_),
-      models_(project_.lists) {}
+      models_(project_.lists),
+      intakeBoxes_(surroundings_.boxes),
+      intake_(
+          project_,
+          [this] {
+              return resources::IntakeRules{.DefaultFolder = settings_.DefaultFolder,
+                                            .WrongFolder = settings_.WrongFolder,
+                                            .InstallPath = InstallPath};
+          },
+          intakeBoxes_),
+      fileChoice_(surroundings_.dialogs, intake_) {}
 
 Shell::~Shell() = default;
 

@@ -12,6 +12,8 @@
 
 #include "canvas/object_actions.h"
 #include "canvas/scene_keeper.h"
+#include "forms/file_choice.h"
+#include "forms/intake_boxes.h"
 #include "forms/pictures.h"
 #include "forms/record_lists.h"
 #include "forms/traps.h"
@@ -71,6 +73,7 @@ class Shell : public QObject {
     [[nodiscard]] EditorSettings& settings() { return settings_; }
     [[nodiscard]] Main& mainWindow() { return *main_; }
     [[nodiscard]] canvas::ObjectActions& actions() { return *actions_; }
+    [[nodiscard]] forms::FileChoice& fileChoice() { return fileChoice_; }
 
     QString InstallPath;         ///< with a separator at its end
     QString HelpFile;            ///< the first page of the help
@@ -92,6 +95,7 @@ class Shell : public QObject {
     void RunTool(int number);
     void showSecurity();
     void showAddScene();
+    void showEditorOptions();
     void insertObject();
 
     Surroundings surroundings_;
@@ -101,6 +105,9 @@ class Shell : public QObject {
     forms::PictureStore pictures_;
     forms::Traps traps_;
     forms::ProjectListModels models_;
+    forms::IntakeBoxes intakeBoxes_;
+    resources::Intake intake_;
+    forms::FileChoice fileChoice_;
     std::unique_ptr<Main> main_;
     std::unique_ptr<canvas::SceneKeeper> keeper_;
     std::unique_ptr<canvas::ObjectActions> actions_;

@@ -1,6 +1,7 @@
 // What the commands of the main window run.
 #include "canvas/new_scene_form.h"
 #include "game/security_editor.h"
+#include "shell/editor_options.h"
 #include "shell/shell.h"
 
 namespace quorvel::shell {
@@ -15,6 +16,7 @@ void Shell::answerCommands() {
         {Command::projectSecurity, [this] { showSecurity(); }},
         {Command::addScene, [this] { showAddScene(); }},
         {Command::insertObject, [this] { insertObject(); }},
+        {Command::editorOptions, [this] { showEditorOptions(); }},
         {Command::toggleAnimations, [this] { ToggleAnimations(!main_->view().animationsOn()); }},
         {Command::toggleBorders, [this] { ToggleBorders(!main_->view().bordersOn()); }},
     };
@@ -60,6 +62,11 @@ void Shell::showSecurity() {
 
 void Shell::showAddScene() {
     canvas::NewScenefrm window(*keeper_, nullptr, main_.get());
+    window.exec();
+}
+
+void Shell::showEditorOptions() {
+    EdOptions window(settings_, nullptr, main_.get());
     window.exec();
 }
 

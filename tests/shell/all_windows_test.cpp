@@ -22,6 +22,7 @@
 #include <QToolButton>
 
 #include "forms/events.h"
+#include "forms/intake_boxes.h"
 #include "forms/look.h"
 #include "forms/wrap_button.h"
 #include "shell/splash.h"
@@ -215,6 +216,15 @@ class AllWindows : public ShellFixture, public ::testing::WithParamInterface<Loo
         expectNoCutText(window);
         expectTabReachesAll(window);
     }
+    /// Checks the window `name`, which the menu entry `entry` opens.
+    void checkOpenedBy(const QString& entry, const QString& name) {
+        withWindow(
+            name, [&] { action(entry).trigger(); },
+            [&](QWidget& window) {
+                check(window, name);
+                window.close();
+            });
+    }
     static void picture(QWidget& window, const QString& name) {
         const QDir folder(QCoreApplication::applicationDirPath() +
                           QStringLiteral("/../window-pictures"));
@@ -324,32 +334,38 @@ TEST_P(AllWindows, OpeningAProject) {
 
 TEST_P(AllWindows, ProjectSecurity) {
     start({text(someProject().projectPath())});
-    withWindow(
-        QStringLiteral("ProjSecurity"), [this] { action(QStringLiteral("projmen(12)")).trigger(); },
-        [&](QWidget& window) {
-            check(window, QStringLiteral("ProjSecurity"));
-            window.close();
-        });
+    checkOpenedBy(QStringLiteral("projmen(12)"), QStringLiteral("ProjSecurity"));
 }
 
 TEST_P(AllWindows, NewScene) {
     start({text(someProject().projectPath())});
-    withWindow(
-        QStringLiteral("NewScenefrm"), [this] { action(QStringLiteral("projmen(1)")).trigger(); },
-        [&](QWidget& window) {
-            check(window, QStringLiteral("NewScenefrm"));
-            window.close();
-        });
+    checkOpenedBy(QStringLiteral("projmen(1)"), QStringLiteral("NewScenefrm"));
 }
 
 TEST_P(AllWindows, NewObject) {
     start({text(someProject().projectPath())});
+    checkOpenedBy(QStringLiteral("scnmen(3)"), QStringLiteral("newlink"));
+}
+
+TEST_P(AllWindows, EditorOptions) {
+    start();
+    checkOpenedBy(QStringLiteral("options(1)"), QStringLiteral("EdOptions"));
+}
+
+TEST_P(AllWindows, CopyOrMove) {
+    forms::IntakeBoxes questions(boxes);
     withWindow(
-        QStringLiteral("newlink"), [this] { action(QStringLiteral("scnmen(3)")).trigger(); },
+        QStringLiteral("PickCM"), [&] { questions.copyOrMove(); },
         [&](QWidget& window) {
-            check(window, QStringLiteral("newlink"));
-            window.close();
+            check(window, QStringLiteral("PickCM"));
+            control<QPushButton>(window, QStringLiteral("Command1(0)")).click();
         });
+}
+
+TEST_P(AllWindows, CopyingAFile) {
+    forms::CopyingFile window(QStringLiteral("introduction.avi"), nullptr);
+    window.show(40, 100);
+    check(window, QStringLiteral("CopyingFile"));
 }
 
 TEST_P(AllWindows, Boxes) {
