@@ -31,7 +31,7 @@ class FileChoosing : public testing::Test {
         writeBytes(pictures / "coin.gif", "new");
     }
     /// The author chooses `file`; what the field gets.
-    std::optional<QString> choose(const fs::path& file, FileField field) {
+    std::optional<QString> choose(const fs::path& file, const FileField& field) {
         dialogs.choice = text(file);
         return choice.choose(field);
     }

@@ -12,7 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using store::ErrorNumber;
-using store::ResourceFolder;
 using test::readBytes;
 using test::snapshotOf;
 using test::writeBytes;

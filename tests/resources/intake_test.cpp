@@ -90,6 +90,16 @@ TEST_F(CheckFileLoc, AFileInTheRightFolderIsNeitherCopiedNorAskedFor) {
     EXPECT_EQ(snapshotOf(folder.path() / "game"), before);
 }
 
+TEST_F(CheckFileLoc, TheRightFolderIsKnownWhereTheProjectWasOpenedThroughALink) {
+    rules.WrongFolder = 2;
+    writeBytes(gfx / "coin.gif", "only one");
+    fs::create_directory_symlink(folder / "game", folder / "link");
+    project.ProjectFolder = store::textOf(folder.path() / "link") + "/";
+    EXPECT_TRUE(check(gfx / "coin.gif"));
+    EXPECT_EQ(readBytes(gfx / "coin.gif"), "only one");
+    expectSilence();
+}
+
 TEST_F(CheckFileLoc, TheRightFolderIsToldWhileDebugging) {
     writeBytes(mmedia / "ding.wav", "ding");
     rules.DebugMessages = true;
