@@ -368,6 +368,17 @@ TEST_P(AllWindows, CopyingAFile) {
     check(window, QStringLiteral("CopyingFile"));
 }
 
+TEST_P(AllWindows, SizingALink) {
+    start({text(someProject().projectPath())});
+    shell->actions().dragging().CurrentLink = 4;
+    withWindow(
+        QStringLiteral("ResizeD"), [this] { shell->actions().showResize(); },
+        [&](QWidget& window) {
+            check(window, QStringLiteral("ResizeD"));
+            window.close();
+        });
+}
+
 TEST_P(AllWindows, Boxes) {
     const std::vector<std::pair<const char*, Box>> boxesToShow = {
         {"Box-plain", {.text = QStringLiteral("Saved folder exists")}},
