@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
-#include <QWheelEvent>
 
 #include "shell/scene_fixture.h"
 #include "support/gif_bytes.h"
