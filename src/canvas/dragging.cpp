@@ -15,12 +15,9 @@ class DragGhost : public QWidget {
         hide();
     }
 
-    void showAs(SceneElement& element) {
-        resize(element.size());
-        picture_ = QPixmap(element.size());
-        picture_.fill(Qt::transparent);
-        element.render(&picture_, {}, {}, QWidget::DrawChildren);
-        move(element.pos());
+    void showAs(const SceneElement& element) {
+        element_ = &element;
+        setGeometry(element.geometry());
         raise();
         show();
         setCursor(Qt::ClosedHandCursor);
@@ -28,10 +25,12 @@ class DragGhost : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* /*event*/) override {
+        // Drawn anew each time: an edge link can be as large as a number goes.
         QPainter painter(this);
+        painter.save();
         painter.setOpacity(0.75);
-        painter.drawPixmap(0, 0, picture_);
-        painter.setOpacity(1.0);
+        element_->draw(painter);
+        painter.restore();
         painter.setPen(QPen(QColor(0, 0, 0, 140), 1));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
         painter.setPen(QPen(QColor(255, 255, 255, 220), 1, Qt::DashLine));
@@ -39,7 +38,7 @@ class DragGhost : public QWidget {
     }
 
   private:
-    QPixmap picture_;
+    const SceneElement* element_ = nullptr;
 };
 
 namespace {
@@ -58,22 +57,27 @@ Dragging::Dragging(SceneView& view)
     for (SceneElement* element : view.movableElements()) {
         element->installEventFilter(this);
     }
-    connect(&view_, &SceneView::leaving, this, &Dragging::cancel);
+    connect(&view, &SceneView::leaving, this, &Dragging::cancel);
 }
 
 bool Dragging::eventFilter(QObject* watched, QEvent* event) {
     if (carried_ != nullptr) {
-        return whileCarrying(*event);
+        return whileCarrying(*watched, *event);
     }
     auto* element = qobject_cast<SceneElement*>(watched);
     if (element == nullptr) {
         return false;
     }
-    // The press of a drag that follows quickly upon another is a double click to the system.
-    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
-        return pressed(*element, *event);
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        // The press of a drag that follows quickly upon another is a double click to the system.
+        case QEvent::MouseButtonDblClick:
+            return pressed(*element, *event);
+        case QEvent::KeyPress:
+            return keyPressed(*element, *event);
+        default:
+            return false;
     }
-    return event->type() == QEvent::KeyPress && keyPressed(*element, *event);
 }
 
 bool Dragging::pressed(SceneElement& element, QEvent& event) {
@@ -84,11 +88,12 @@ bool Dragging::pressed(SceneElement& element, QEvent& event) {
     if (mouse.button() != Qt::LeftButton) {
         return false;
     }
-    take(element, mouse.position().toPoint());
+    take(element, mouse.globalPosition().toPoint());
     return true;
 }
 
-void Dragging::take(SceneElement& element, QPoint grip) {
+void Dragging::take(SceneElement& element, QPoint global) {
+    const QPoint grip = element.mapFromGlobal(global);
     DraggingObject = isObject(element) ? 1 : 0;
     DragIndex = isObject(element) ? element.index() : kLinkIndex;
     DragOffsetX = grip.x();
@@ -104,22 +109,21 @@ void Dragging::take(SceneElement& element, QPoint grip) {
     qApp->installEventFilter(this);
 }
 
-bool Dragging::whileCarrying(QEvent& event) {
+bool Dragging::whileCarrying(const QObject& watched, QEvent& event) {
     switch (event.type()) {
         case QEvent::MouseMove:
-            follow(static_cast<QMouseEvent&>(event).globalPosition().toPoint());
-            return true;
         case QEvent::MouseButtonRelease:
-            if (static_cast<QMouseEvent&>(event).button() == Qt::LeftButton) {
-                drop(static_cast<QMouseEvent&>(event).globalPosition().toPoint());
-            }
-            return true;
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
+            // On its way through the window's handle the toolkit keeps count of the buttons.
+            return watched.isWidgetType() && mouseWhileCarrying(static_cast<QMouseEvent&>(event));
         case QEvent::Wheel:
         case QEvent::ContextMenu:
             return true;
         case QEvent::ShortcutOverride:
+            // No shortcut runs meanwhile.
+            event.accept();
+            return true;
         case QEvent::KeyPress:
             if (static_cast<QKeyEvent&>(event).key() == Qt::Key_Escape) {
                 cancel();
@@ -130,26 +134,47 @@ bool Dragging::whileCarrying(QEvent& event) {
                 cancel();
             }
             return false;
+        case QEvent::WindowDeactivate:
+        case QEvent::WindowBlocked:
+            if (&watched == view_.window()) {
+                cancel();
+            }
+            return false;
         default:
             return false;
     }
 }
 
+bool Dragging::mouseWhileCarrying(QMouseEvent& mouse) {
+    const QPoint global = mouse.globalPosition().toPoint();
+    if (mouse.type() == QEvent::MouseMove) {
+        follow(global);
+    } else if (mouse.type() == QEvent::MouseButtonRelease && mouse.button() == Qt::LeftButton) {
+        drop(global);
+    }
+    return true;
+}
+
+QPoint Dragging::placeAt(QPoint global) const {
+    return view_.canvas().mapFromGlobal(global) - QPoint(DragOffsetX, DragOffsetY);
+}
+
 void Dragging::follow(QPoint global) {
-    const QPoint at = view_.canvas().mapFromGlobal(global);
-    ghost_->move(at.x() - DragOffsetX, at.y() - DragOffsetY);
+    const QPoint place = placeAt(global);
+    ghost_->move(place);
+    view_.tellCarried(*carried_, place.x(), place.y());
 }
 
 void Dragging::drop(QPoint global) {
-    const QPoint at = view_.canvas().mapFromGlobal(global);
     // Nothing but the canvas takes a drop; elsewhere the element goes back.
-    if (!view_.canvas().rect().contains(at)) {
+    if (!view_.takesDropAt(global)) {
         cancel();
         return;
     }
+    const QPoint place = placeAt(global);
     SceneElement& element = *carried_;
     letGo();
-    view_.DropElement(element, at.x() - DragOffsetX, at.y() - DragOffsetY);
+    view_.DropElement(element, place.x(), place.y());
 }
 
 void Dragging::letGo() {
@@ -165,13 +190,18 @@ void Dragging::letGo() {
 
 void Dragging::cancel() {
     if (carried_ != nullptr) {
+        const SceneElement& element = *carried_;
         letGo();
         view_.redrawBorders();
+        view_.tellCarried(element, element.place().left, element.place().top);
     }
 }
 
 bool Dragging::keyPressed(SceneElement& element, QEvent& event) {
     const auto& key = static_cast<QKeyEvent&>(event);
+    if ((key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != Qt::NoModifier) {
+        return false;
+    }
     const int step = key.modifiers().testFlag(Qt::ShiftModifier) ? 10 : 1;
     QPoint by;
     switch (key.key()) {
@@ -210,7 +240,6 @@ void Dragging::DropSizer(int index, QPoint at) {
     }
     const auto side = static_cast<store::LinkSide>(CurrentLink);
     Place place = view_.linkPlace(side);
-    const auto pixel = [](int value) { return static_cast<std::int16_t>(value); };
     if (index == 0 || index == 3) {
         place.left = pixel(at.x());
         place.top = pixel(at.y());

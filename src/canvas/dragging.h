@@ -5,6 +5,7 @@
 /// `SceneView::DropElement`.
 #pragma once
 
+#include <QMouseEvent>
 #include <QObject>
 #include <QPoint>
 
@@ -44,12 +45,15 @@ class Dragging : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void take(SceneElement& element, QPoint grip);
+    void take(SceneElement& element, QPoint global);
     void follow(QPoint global);
     void drop(QPoint global);
     void letGo();
     bool pressed(SceneElement& element, QEvent& event);
-    bool whileCarrying(QEvent& event);
+    bool whileCarrying(const QObject& watched, QEvent& event);
+    bool mouseWhileCarrying(QMouseEvent& mouse);
+    /// Where the carried element would be with the pointer at a point of the screen.
+    [[nodiscard]] QPoint placeAt(QPoint global) const;
     bool keyPressed(SceneElement& element, QEvent& event);
 
     SceneView& view_;

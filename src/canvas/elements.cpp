@@ -1,11 +1,15 @@
 #include "canvas/elements.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
+#include <QFocusEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+
+#include "canvas/texts.h"
 
 namespace quorvel::canvas {
 namespace {
@@ -51,6 +55,11 @@ int angleOf(store::LinkSide side) {
 
 }  // namespace
 
+std::int16_t pixel(int number) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    return static_cast<std::int16_t>(std::clamp<int>(number, Limits::min(), Limits::max()));
+}
+
 SceneElement::SceneElement(Kind kind, int index, QWidget* parent)
     : QWidget(parent), kind_(kind), index_(index) {
     setMouseTracking(true);
@@ -80,7 +89,22 @@ QString SceneElement::tag() const {
 void SceneElement::setTag(const QString& tag) {
     if (this->tag() != tag) {
         setProperty(kTag, tag);
+        setAccessibleName(tag.isEmpty() ? QString() : QStringLiteral("%1 %2").arg(tag).arg(index_));
     }
+}
+
+void SceneElement::draw(QPainter& /*painter*/) const {}
+
+void SceneElement::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+        Q_EMIT pointedAt(*this);
+    }
+}
+
+void SceneElement::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    draw(painter);
 }
 
 void SceneElement::enterEvent(QEnterEvent* event) {
@@ -117,7 +141,9 @@ void SceneImage::paintEvent(QPaintEvent* event) {
 }
 
 LinkElement::LinkElement(store::LinkSide side, QWidget* parent)
-    : SceneElement(Kind::link, static_cast<int>(side), parent), side_(side) {}
+    : SceneElement(Kind::link, static_cast<int>(side), parent), side_(side) {
+    setAccessibleName(QStringLiteral("Link (%1)").arg(directionName(side)));
+}
 
 void LinkElement::setLeads(bool leads) {
     leads_ = leads;
@@ -134,9 +160,9 @@ void LinkElement::leaveEvent(QEvent* event) {
     update();
 }
 
-void LinkElement::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    const bool hovered = underMouse();
+void LinkElement::draw(QPainter& painter) const {
+    // While it is carried its place is hidden; what follows the pointer is as clear as can be.
+    const bool hovered = underMouse() || isHidden();
     if (hovered) {
         painter.fillRect(rect(), QColor(255, 255, 255, 46));
         painter.setPen(QColor(20, 26, 34, 90));
@@ -190,8 +216,8 @@ void PictureElement::hideEvent(QHideEvent* event) {
     playhead_.setSuspended(true);
 }
 
-void PictureElement::paintEvent(QPaintEvent* /*event*/) {
-    QPainter(this).drawImage(0, 0, playhead_.frame());
+void PictureElement::draw(QPainter& painter) const {
+    painter.drawImage(0, 0, playhead_.frame());
 }
 
 Outline::Outline(const QColor& color, QWidget* parent) : QWidget(parent), color_(color) {

@@ -22,6 +22,9 @@ struct Place {
     friend bool operator==(const Place&, const Place&) = default;
 };
 
+/// A number of pixels as the record takes it: bounded, never wrapped.
+[[nodiscard]] std::int16_t pixel(int number);
+
 /// Anything on the canvas that the pointer can be over. It knows what it is and which one.
 class SceneElement : public QWidget {
     Q_OBJECT
@@ -46,13 +49,18 @@ class SceneElement : public QWidget {
     [[nodiscard]] QString tag() const;
     void setTag(const QString& tag);
 
+    /// Draws what the element looks like, from its own top left; a QuickSpot looks like nothing.
+    virtual void draw(QPainter& painter) const;
+
   Q_SIGNALS:
-    /// The pointer is over the element.
+    /// The pointer is over the element, or the keyboard has come to it.
     void pointedAt(const SceneElement& element);
 
   protected:
     void enterEvent(QEnterEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
   private:
     Place place_;
@@ -85,11 +93,11 @@ class LinkElement : public SceneElement {
     [[nodiscard]] store::LinkSide side() const { return side_; }
     /// A link that leads somewhere is marked more strongly.
     void setLeads(bool leads);
+    void draw(QPainter& painter) const override;
 
   protected:
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
   private:
     store::LinkSide side_;
@@ -109,6 +117,7 @@ class PictureElement : public SceneElement {
 
     [[nodiscard]] forms::Playhead& playhead() { return playhead_; }
     [[nodiscard]] const forms::Playhead& playhead() const { return playhead_; }
+    void draw(QPainter& painter) const override;
 
   Q_SIGNALS:
     /// A picture, or none, has been loaded; the element has its size.
@@ -117,7 +126,6 @@ class PictureElement : public SceneElement {
   protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
   private:
     forms::Playhead playhead_;

@@ -69,6 +69,13 @@ void newlink::build(const std::function<void()>& help) {
     hint->setObjectName(QStringLiteral("Label2"));
     hint->setWordWrap(true);
 
+    auto* reminder = new QLabel(
+        QStringLiteral("If you add a new object type, change the number in the Activate section to "
+                       "clear all option boxes!"),
+        this);
+    reminder->setObjectName(QStringLiteral("Label1"));
+    reminder->hide();
+
     auto* index = new QHBoxLayout;
     index->addWidget(caption, 0, Qt::AlignTop);
     index->addWidget(indexes_, 0, Qt::AlignTop);
@@ -103,11 +110,13 @@ void newlink::fillFreeIndexes() {
         indexes_->setCurrentIndex(0);
         return;
     }
-    boxes_.tell(
-        QStringLiteral("According to calculations, all 20 objects are used.  This window "
-                       "shouldn't have opened.  Please Report this error."));
     // A window cannot leave while it is being shown.
-    QTimer::singleShot(0, this, &QDialog::reject);
+    QTimer::singleShot(0, this, [this] {
+        boxes_.tell(
+            QStringLiteral("According to calculations, all 20 objects are used.  This window "
+                           "shouldn't have opened.  Please Report this error."));
+        reject();
+    });
 }
 
 void newlink::Command3_Click() {

@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QWindow>
 
 namespace quorvel::canvas {
 namespace {
@@ -132,6 +133,13 @@ void menus::build() {
         menu->addSeparator();
         menu->addAction(QStringLiteral("Cancel Menu"))->setObjectName(QStringLiteral("EdCancel"));
     }
+}
+
+void menus::open(PopupMenu which, QPoint screen, QWindow* over) {
+    QMenu& opened = menu(which);
+    opened.winId();  // makes the handle
+    opened.windowHandle()->setTransientParent(over);
+    opened.popup(screen);
 }
 
 QAction* menus::entryOf(PopupMenu which, PopupAction entry) const {

@@ -13,6 +13,7 @@
 
 class QAction;
 class QMenu;
+class QWindow;
 
 namespace quorvel::canvas {
 
@@ -54,6 +55,10 @@ class menus : public QWidget {  // NOLINT(readability-identifier-naming): the wi
     explicit menus(QWidget* parent);
 
     [[nodiscard]] QMenu& menu(PopupMenu which) const { return *menus_.at(which); }
+
+    /// Opens a menu at a point of the screen. `over` is the window that it belongs to there; the
+    /// form itself never gets one.
+    void open(PopupMenu which, QPoint screen, QWindow* over);
 
     /// Caption and state of a jump entry: the text of the scene it leads to, empty for none.
     void prepareJump(PopupMenu which, PopupAction jump, const QString& scene);

@@ -39,9 +39,6 @@ ObjectActions::ObjectActions(const House& house)
         element->setFocusPolicy(Qt::TabFocus);
     }
     house_.view.imageElement().installEventFilter(this);
-    connect(&house_.view, &SceneView::objectCountChanged, this, [this](int count) {
-        menus_.setAvailable(PopupMenu::scene, PopupAction::insertObject, count < store::kSlotCount);
-    });
     // Made last: it has to see the keys that the others take.
     new FocusOutline(house_.view.movableElements(), &house_.view.canvas());
 }
@@ -51,7 +48,7 @@ bool ObjectActions::eventFilter(QObject* watched, QEvent* event) {
     if (element == nullptr || dragging_.isDragging() || house_.project.CurrentScene == 0) {
         return false;
     }
-    if (event->type() == QEvent::MouseButtonPress) {
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
         const auto& mouse = static_cast<QMouseEvent&>(*event);
         if (mouse.button() == Qt::RightButton) {
             const QPoint screen = mouse.globalPosition().toPoint();
@@ -62,8 +59,10 @@ bool ObjectActions::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::ContextMenu) {
         const auto& menu = static_cast<QContextMenuEvent&>(*event);
         if (menu.reason() == QContextMenuEvent::Keyboard) {
-            const QPoint middle = element->rect().center();
-            openMenu(*element, element->mapToGlobal(middle), element->mapToParent(middle));
+            // In the middle of what is seen of the element.
+            const QRect seen = element->geometry() & house_.view.canvas().rect();
+            const QPoint at = (seen.isEmpty() ? house_.view.canvas().rect() : seen).center();
+            openMenu(*element, house_.view.canvas().mapToGlobal(at), at);
         }
         return true;
     }
@@ -96,7 +95,7 @@ void ObjectActions::openObjectMenu(int k, QPoint screen) {
     const PopupMenu menu = menuOf(type);
     prepareObjectJumps(slot, menu);
     menus_.setAvailable(menu, PopupAction::properties, editors_.contains(type));
-    menus_.menu(menu).popup(screen);
+    menus_.open(menu, screen, house_.view.window()->windowHandle());
 }
 
 void ObjectActions::prepareObjectJumps(const store::ObjectSlot& slot, PopupMenu menu) {
@@ -120,7 +119,7 @@ void ObjectActions::openLinkMenu(int n, QPoint screen) {
     prepareJump(PopupMenu::link, PopupAction::jump,
                 house_.scene.link(static_cast<store::LinkSide>(n)).target);
     menus_.setAvailable(PopupMenu::link, PopupAction::properties, linkEditor_ != nullptr);
-    menus_.menu(PopupMenu::link).popup(screen);
+    menus_.open(PopupMenu::link, screen, house_.view.window()->windowHandle());
 }
 
 void ObjectActions::openSceneMenu(QPoint screen, QPoint at) {
@@ -128,8 +127,13 @@ void ObjectActions::openSceneMenu(QPoint screen, QPoint at) {
     InsertY = static_cast<std::int16_t>(at.y());
     prepareJump(PopupMenu::scene, PopupAction::jump,
                 house_.scene.header(store::HeaderInt::SceneCheckFlagTarget));
-    menus_.setAvailable(PopupMenu::scene, PopupAction::properties, sceneEditor_ != nullptr);
-    menus_.menu(PopupMenu::scene).popup(screen);
+    menus_.open(PopupMenu::scene, screen, house_.view.window()->windowHandle());
+}
+
+void ObjectActions::setSceneEntries(bool projectOpen, bool roomForObject) {
+    menus_.setAvailable(PopupMenu::scene, PopupAction::properties,
+                        projectOpen && sceneEditor_ != nullptr);
+    menus_.setAvailable(PopupMenu::scene, PopupAction::insertObject, projectOpen && roomForObject);
 }
 
 QString ObjectActions::sceneText(int number) const {
@@ -160,6 +164,9 @@ void ObjectActions::tellUnknownType() {
 }
 
 void ObjectActions::answer(PopupMenu menu, PopupAction entry) {
+    if (house_.project.CurrentScene == 0) {
+        return;  // the project went while the menu was open
+    }
     switch (entry) {
         case PopupAction::properties:
             if (menu == PopupMenu::link) {
@@ -220,6 +227,7 @@ void ObjectActions::showNewLink() {
 
 void ObjectActions::InsertObject(ObjectType type, int index) {
     store::ResetSlot(house_.scene.slot(index), type, InsertX, InsertY);
+    house_.view.forgetPosition(index);
     PopupObject = index;
     house_.view.ShowObject(index);
     house_.view.UpdateObjectCount();

@@ -36,7 +36,7 @@ class ObjectActions : public QObject {
     // What the author works on, by the system's names.
     int CurObj = 0;            ///< slot in the editor that is open, 0 when none
     int PopupObject = 0;       ///< element last right-clicked
-    int JumpTarget = 0;        ///< scene behind the pop-up's jump entry
+    int JumpTarget = 0;        ///< scene behind the jump entry of the pop-up, 0 for none
     std::int16_t InsertX = 0;  ///< where an inserted object goes, canvas pixels
     std::int16_t InsertY = 0;
 
@@ -48,6 +48,9 @@ class ObjectActions : public QObject {
     void registerEditor(store::ObjectType type, std::function<void()> editor);
     void registerLinkEditor(std::function<void()> editor) { linkEditor_ = std::move(editor); }
     void registerSceneEditor(std::function<void()> editor) { sceneEditor_ = std::move(editor); }
+
+    /// Whether the scene's own menu offers its properties and an insertion.
+    void setSceneEntries(bool projectOpen, bool roomForObject);
 
     /// Opens the editor of object `PopupObject` by its type code; codes above 9, and types without
     /// an editor, do nothing.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include "canvas/object_kinds.h"
 #include "canvas/scene_view.h"
@@ -61,6 +60,11 @@ void SceneView::rememberPositions() {
     }
 }
 
+void SceneView::forgetPosition(int k) {
+    SavedX.at(static_cast<std::size_t>(k)) = kNoPlace;
+    SavedY.at(static_cast<std::size_t>(k)) = kNoPlace;
+}
+
 void SceneView::putBack(int k, SceneElement& element) {
     const auto entry = static_cast<std::size_t>(k);
     if (!element.isShown()) {
@@ -88,10 +92,7 @@ void SceneView::putPositionsBack() {
 }
 
 void SceneView::DropElement(SceneElement& element, int left, int top) {
-    constexpr int kLeast = std::numeric_limits<std::int16_t>::min();
-    constexpr int kMost = std::numeric_limits<std::int16_t>::max();
-    element.moveTo(static_cast<std::int16_t>(std::clamp(left, kLeast, kMost)),
-                   static_cast<std::int16_t>(std::clamp(top, kLeast, kMost)));
+    element.moveTo(pixel(left), pixel(top));
     if (element.kind() == SceneElement::Kind::link) {
         storeLinkPlace(static_cast<std::size_t>(element.index()));
     } else {

@@ -13,6 +13,7 @@
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
+#include "canvas/texts.h"
 #include "store/numbers.h"
 
 namespace quorvel::canvas {
@@ -27,20 +28,6 @@ constexpr std::array kCaptions = {
     "Preset 3 - Large    (100h X 100w)", "Custom size", "Restore default size and position"};
 constexpr std::array kSizeCaptions = {"Current Width >", "Current Height >", "Proposed Width >",
                                       "Proposed Height >"};
-
-QString directionName(store::LinkSide side) {
-    switch (side) {
-        case store::LinkSide::left:
-            return QStringLiteral("Left");
-        case store::LinkSide::up:
-            return QStringLiteral("Up");
-        case store::LinkSide::right:
-            return QStringLiteral("Right");
-        case store::LinkSide::down:
-            break;
-    }
-    return QStringLiteral("Down");
-}
 
 /// Where "Restore default size and position" puts a link. The lower one goes to another place than
 /// in a new scene: authors' scenes rely on it.
@@ -97,6 +84,7 @@ void ResizeD::build(const std::function<void()>& help) {
 QWidget* ResizeD::buildOptions() {
     auto* frame = new QGroupBox(this);
     frame->setObjectName(QStringLiteral("Frame1"));
+    frame->setAccessibleName(QStringLiteral("Size"));
     auto* rows = new QVBoxLayout(frame);
     for (std::size_t i = 0; i < options_.size(); ++i) {
         const int at = static_cast<int>(i);

@@ -39,39 +39,57 @@ SaveOutcome SceneKeeper::SaveScene() {
 }
 
 void SceneKeeper::LoadScene(int number) {
-    view_.ClearCanvas();
     store::LoadScene(project_, scene_, number);
+    hold_.emplace(view_);
+    view_.ClearCanvas();
+    Q_EMIT sceneLoading();
 }
 
-void SceneKeeper::showScene() {
+std::optional<store::RuntimeError> SceneKeeper::showPicture() {
     const std::string& image = scene_.header(HeaderString::SceneImage);
     if (image.empty()) {
         view_.ClearSceneImage();
-    } else {
-        traps_.reading(QStringLiteral("GetSceneImage"), [&] {
-            const auto path =
-                store::findResource(project_.folder(), store::ResourceFolder::gfx, image);
-            if (!path) {
-                view_.ClearSceneImage();
-                throw store::RuntimeError(store::ErrorNumber::fileNotFound, store::pathOf(image));
-            }
-            view_.GetSceneImage(*path);
-        });
+        return std::nullopt;
     }
+    const auto path = store::findResource(project_.folder(), store::ResourceFolder::gfx, image);
+    if (!path) {
+        view_.ClearSceneImage();
+        return store::RuntimeError(store::ErrorNumber::fileNotFound, store::pathOf(image));
+    }
+    try {
+        view_.GetSceneImage(*path);
+        return std::nullopt;
+    } catch (const store::RuntimeError& error) {
+        return error;
+    }
+}
+
+void SceneKeeper::showScene() {
+    const auto failure = showPicture();
     view_.ShowSceneObjects();
+    hold_.reset();
     Q_EMIT sceneShown(project_.CurrentScene);
+    if (failure) {
+        traps_.tellReadFailure(QStringLiteral("GetSceneImage"), *failure);
+    }
 }
 
 bool SceneKeeper::leave() {
     return SaveScene() != SaveOutcome::failed;
 }
 
-bool SceneKeeper::arrive(int number) {
-    const bool loaded =
-        traps_.reading(QStringLiteral("LoadScene"), [this, number] { LoadScene(number); });
-    // When the read failed this shows again what is still in memory.
+bool SceneKeeper::arrive(int number, int wayBack) {
+    if (!traps_.reading(QStringLiteral("LoadScene"), [this, number] { LoadScene(number); })) {
+        // The canvas is as it was; what stands around it may have moved on already.
+        Q_EMIT sceneShown(project_.CurrentScene);
+        return false;
+    }
+    if (wayBack != 0) {
+        scene_.LinkDown.pointer = kExitPointer;
+        scene_.LinkDown.target = static_cast<std::int16_t>(wayBack);
+    }
     showScene();
-    return loaded;
+    return true;
 }
 
 bool SceneKeeper::GoToScene(int number) {
@@ -79,28 +97,38 @@ bool SceneKeeper::GoToScene(int number) {
 }
 
 bool SceneKeeper::writeNewScene(int number, NewScene mode) {
-    return traps_.writing([&] {
+    try {
         if (mode == NewScene::exactCopy) {
             store::SaveScene(project_, scene_, number);
         } else {
             store::WriteBlankScene(project_, number, "", "");
         }
-    });
+        return true;
+    } catch (const store::RuntimeError& error) {
+        traps_.tellWriteFailure(error);
+        return false;
+    }
 }
 
 bool SceneKeeper::AddScene(NewScene mode) {
-    if (!leave()) {
-        return false;
-    }
     if (project_.NumberOfScenes >= kMostScenes) {
         boxes_.show({.text = QStringLiteral("A project cannot hold more than %1 scenes.")
                                  .arg(QString::number(kMostScenes)),
                      .icon = forms::Box::Icon::exclamation});
         return false;
     }
+    // That a project is read-only is told once; a scene that is asked for is not left out silently.
+    const bool knownReadOnly = project_.ReadOnlyProject;
+    if (!leave()) {
+        return false;
+    }
     const int previous = project_.CurrentScene;
     const int number = project_.NumberOfScenes + 1;
     if (!writeNewScene(number, mode)) {
+        if (knownReadOnly) {
+            boxes_.show({.text = QStringLiteral("The scene could not be added."),
+                         .icon = forms::Box::Icon::exclamation});
+        }
         return false;
     }
     project_.NumberOfScenes = number;
@@ -108,12 +136,7 @@ bool SceneKeeper::AddScene(NewScene mode) {
         mode == NewScene::exactCopy ? scene_.header(HeaderString::SceneName) : std::string();
     project_.lists.scenes.push_back({number, name, 0});
     Q_EMIT sceneAdded();
-    const bool shown = arrive(number);
-    if (shown && mode == NewScene::closeup) {
-        scene_.LinkDown.pointer = kExitPointer;
-        scene_.LinkDown.target = static_cast<std::int16_t>(previous);
-    }
-    return shown;
+    return arrive(number, mode == NewScene::closeup ? previous : 0);
 }
 
 }  // namespace quorvel::canvas

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include <QObject>
 
@@ -31,12 +32,13 @@ class SceneKeeper : public QObject {
     /// scene without a record of its own is not written and counts as saved.
     SaveOutcome SaveScene();
 
-    /// Reads scene `number` into memory and makes it the current one; alerts go off. The canvas is
-    /// emptied first unless a project is being opened. Throws `store::RuntimeError`.
+    /// Reads scene `number` into memory and makes it the current one; alerts go off and, unless a
+    /// project is being opened, the canvas is emptied. It goes on looking as it did until
+    /// `showScene`. Throws `store::RuntimeError`, and nothing has changed then.
     void LoadScene(int number);
 
     /// Shows the scene in memory: its picture, or none, then its links and objects. A picture that
-    /// cannot be shown is told, and the objects appear all the same.
+    /// cannot be shown is told when the objects have appeared.
     void showScene();
 
     /// Saves the current scene and shows scene `number`. The author stays where the current scene
@@ -50,6 +52,8 @@ class SceneKeeper : public QObject {
     bool AddScene(NewScene mode);
 
   Q_SIGNALS:
+    /// A scene has been read and is about to be shown.
+    void sceneLoading();
     /// Scene `number` is on the canvas.
     void sceneShown(int number);
     /// The list of scenes has got a last entry.
@@ -58,14 +62,18 @@ class SceneKeeper : public QObject {
   private:
     /// Saves before leaving; false when the author has to stay.
     bool leave();
-    bool arrive(int number);
+    /// Loads and shows scene `number`. With `wayBack` its lower edge link leads to that scene.
+    bool arrive(int number, int wayBack = 0);
     bool writeNewScene(int number, NewScene mode);
+    /// What went wrong with the scene's picture, if anything did.
+    std::optional<store::RuntimeError> showPicture();
 
     store::Project& project_;
     store::Scene& scene_;
     SceneView& view_;
     forms::Boxes& boxes_;
     forms::Traps& traps_;
+    std::optional<SceneView::Hold> hold_;  // from loading to showing
 };
 
 }  // namespace quorvel::canvas

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -14,6 +15,11 @@ namespace {
 
 constexpr QColor kObjectColor(0x36, 0xe0, 0xcf);
 constexpr QColor kLinkColor(0xff, 0xb8, 0x4d);
+
+/// False for an element that is not there, and for one that is being carried.
+bool isBordered(const SceneElement& element) {
+    return element.isShown() && !element.isHidden();
+}
 
 store::ErrorNumber errorOf(forms::Picture::Problem problem) {
     switch (problem) {
@@ -40,6 +46,18 @@ SceneView::SceneView(const store::Project& project, store::Scene& scene,
     makeElements();
     SavedX.fill(kNoPlace);
     SavedY.fill(kNoPlace);
+}
+
+SceneView::Hold::Hold(SceneView& view) : view_(view) {
+    if (view_.holds_++ == 0) {
+        view_.canvas_->setUpdatesEnabled(false);
+    }
+}
+
+SceneView::Hold::~Hold() {
+    if (--view_.holds_ == 0) {
+        view_.canvas_->setUpdatesEnabled(true);
+    }
 }
 
 /// Elements are stacked in the order in which they are made: an object's place in the stack is its
@@ -91,6 +109,13 @@ void SceneView::followPointer(SceneElement* element) {
             [this](const SceneElement& at) { say(statusOf(at)); });
 }
 
+/// An element that is hidden would hand the keyboard on to the next one.
+void SceneView::takeFocusFromElements() {
+    if (canvas_->isAncestorOf(QApplication::focusWidget())) {
+        setFocus(Qt::OtherFocusReason);
+    }
+}
+
 void SceneView::GetSceneImage(const std::filesystem::path& file) {
     const forms::PicturePtr picture = pictures_.load(file);
     image_->setImage(picture->firstFrame());
@@ -112,6 +137,8 @@ void SceneView::ClearSceneImage() {
 
 void SceneView::ClearCanvas() {
     Q_EMIT leaving();
+    takeFocusFromElements();
+    say(emptyStatus());
     setObjectAlert(false);
     setSceneAlert(false);
     linksPlaced_ = false;
@@ -122,6 +149,7 @@ void SceneView::ClearCanvas() {
 
 void SceneView::ResetCanvas() {
     Q_EMIT leaving();
+    takeFocusFromElements();
     ToggleAnimations(false);
     ToggleBorders(false);
     ClearSceneImage();
@@ -161,7 +189,7 @@ void SceneView::placeBorders() {
     for (int n = 1; n <= kLinks; ++n) {
         const auto i = static_cast<std::size_t>(n);
         linkBorders_[i]->surround(links_[i]->place());
-        linkBorders_[i]->setVisible(BordersOn && links_[i]->isShown());
+        linkBorders_[i]->setVisible(BordersOn && isBordered(*links_[i]));
     }
     for (int k = 1; k <= kObjects; ++k) {
         const auto i = static_cast<std::size_t>(k);
@@ -169,7 +197,7 @@ void SceneView::placeBorders() {
                                         ? *quickSpots_[i]
                                         : static_cast<const SceneElement&>(*objects_[i]);
         borders_[i]->surround(owner.place());
-        borders_[i]->setVisible(BordersOn && owner.isShown());
+        borders_[i]->setVisible(BordersOn && isBordered(owner));
     }
 }
 
@@ -211,6 +239,16 @@ std::vector<SceneElement*> SceneView::movableElements() const {
     return elements;
 }
 
+bool SceneView::takesDropAt(QPoint global) const {
+    QRect seen = canvas_->rect();
+    for (const QWidget* frame = canvas_; !frame->isWindow(); frame = frame->parentWidget()) {
+        const QPoint corner =
+            canvas_->mapFrom(frame->window(), QPoint()) + frame->mapTo(frame->window(), QPoint());
+        seen &= QRect(corner, frame->size());
+    }
+    return seen.contains(canvas_->mapFromGlobal(global));
+}
+
 void SceneView::setSceneAlert(bool on) {
     if (sceneAlert_ != on) {
         sceneAlert_ = on;
@@ -232,17 +270,26 @@ QString SceneView::sceneName(int number) const {
 }
 
 QString SceneView::linkText(const SceneElement& element) const {
-    static const std::array<QString, kLinks + 1> kDirections = {
-        QString(), QStringLiteral("(Left)"), QStringLiteral("(Up)"), QStringLiteral("(Right)"),
-        QStringLiteral("(Down)")};
-    const int target = scene_.link(static_cast<store::LinkSide>(element.index())).target;
+    const auto side = static_cast<store::LinkSide>(element.index());
+    const int target = scene_.link(side).target;
     if (target >= 1 && target <= static_cast<int>(project_.lists.scenes.size())) {
         return QStringLiteral("Object: Link <%1>").arg(sceneName(target));
     }
-    return QStringLiteral("Object: Link") + kDirections[static_cast<std::size_t>(element.index())];
+    return QStringLiteral("Object: Link(%1)").arg(directionName(side));
 }
 
 StatusText SceneView::statusOf(const SceneElement& element) const {
+    return statusAt(element, element.place());
+}
+
+void SceneView::tellCarried(const SceneElement& element, int left, int top) {
+    Place place = element.place();
+    place.left = pixel(left);
+    place.top = pixel(top);
+    say(statusAt(element, place));
+}
+
+StatusText SceneView::statusAt(const SceneElement& element, const Place& place) const {
     StatusText text = emptyStatus();
     switch (element.kind()) {
         case SceneElement::Kind::image:
@@ -264,7 +311,6 @@ StatusText SceneView::statusOf(const SceneElement& element) const {
             text.index = QStringLiteral("Index:") + signedText(element.index());
             break;
     }
-    const Place& place = element.place();
     text.position = QStringLiteral("Pos: x=") + signedText(place.left) + QStringLiteral(" , y=") +
                     signedText(place.top);
     text.size = QStringLiteral("Size:") + signedText(place.height) + QStringLiteral("h X") +

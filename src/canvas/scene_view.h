@@ -35,6 +35,18 @@ class SceneView : public QWidget {
     SceneView(const store::Project& project, store::Scene& scene, forms::PictureStore& pictures,
               QWidget* parent);
 
+    /// While one stands, the canvas keeps what was painted last, though events run.
+    class Hold {
+      public:
+        explicit Hold(SceneView& view);
+        ~Hold();
+        Hold(const Hold&) = delete;
+        Hold& operator=(const Hold&) = delete;
+
+      private:
+        SceneView& view_;
+    };
+
     /// Shows the picture in `file`, measures it and lets the scene alert follow. One that cannot be
     /// shown leaves the canvas without a picture, raises the alert and throws: 53 where there is no
     /// file, 75 where it may not be read, else 481.
@@ -66,6 +78,8 @@ class SceneView : public QWidget {
     /// Makes the elements of object `k`, 1 to 20, follow its slot: a fresh object appears, a freed
     /// one leaves. The remembered positions do not change.
     void ShowObject(int k);
+    /// Object `k` came after the scene was shown: it has no remembered position.
+    void forgetPosition(int k);
     /// Counts the objects anew, for the count and for what depends on it.
     void UpdateObjectCount();
 
@@ -80,6 +94,11 @@ class SceneView : public QWidget {
     /// Shows the border of one link, be borders on or off.
     void showLinkBorder(store::LinkSide side);
     void hideBorderOf(const SceneElement& element);
+
+    /// True when a point of the screen lies on the part of the canvas that is seen.
+    [[nodiscard]] bool takesDropAt(QPoint global) const;
+    /// An element is being carried: its status, as if it were at this place.
+    void tellCarried(const SceneElement& element, int left, int top);
     /// Draws the borders anew when they are on.
     void redrawBorders();
 
@@ -143,6 +162,7 @@ class SceneView : public QWidget {
     void makeElements();
     void name(QWidget* widget, const QString& name, int index);
     void followPointer(SceneElement* element);
+    void takeFocusFromElements();
 
     // The steps of ShowSceneObjects.
     void placeLinks();
@@ -165,6 +185,7 @@ class SceneView : public QWidget {
     void putPositionsBack();
     void putBack(int k, SceneElement& element);
     [[nodiscard]] QString sceneName(int number) const;
+    [[nodiscard]] StatusText statusAt(const SceneElement& element, const Place& place) const;
     [[nodiscard]] QString linkText(const SceneElement& element) const;
     void say(const StatusText& text);
 
@@ -190,6 +211,7 @@ class SceneView : public QWidget {
     int PicturesLoaded = 0;
 
     int objectCount_ = 0;
+    int holds_ = 0;
     bool linksPlaced_ = false;
     bool filling_ = false;
     bool loading_ = false;

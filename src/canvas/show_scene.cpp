@@ -27,12 +27,11 @@ std::int16_t mendedSide(std::string& text) {
 
 void SceneView::ShowSceneObjects() {
     // Half a scene is never painted, though events run between the objects.
-    canvas_->setUpdatesEnabled(false);
+    const Hold hold(*this);
     filling_ = true;
     const auto filled = qScopeGuard([this] {
         filling_ = false;
         setLoading(false);
-        canvas_->setUpdatesEnabled(true);
     });
     setLoading(true);
     for (int n = 1; n <= kLinks; ++n) {

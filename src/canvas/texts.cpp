@@ -12,6 +12,20 @@ QString signedText(int number) {
     return number < 0 ? digits : QLatin1Char(' ') + digits;
 }
 
+QString directionName(store::LinkSide side) {
+    switch (side) {
+        case store::LinkSide::left:
+            return QStringLiteral("Left");
+        case store::LinkSide::up:
+            return QStringLiteral("Up");
+        case store::LinkSide::right:
+            return QStringLiteral("Right");
+        case store::LinkSide::down:
+            break;
+    }
+    return QStringLiteral("Down");
+}
+
 forms::Box sceneSizeAlert(QSize size) {
     return {.text = QStringLiteral("The dimensions of the image file for this scene are incorrect."
                                    "\nAs a result, it may not appear correctly in the game."

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include "forms/boxes.h"
+#include "store/scene.h"
 
 namespace quorvel::canvas {
 
@@ -23,6 +24,9 @@ struct StatusText {
 
 /// A number as text with the place for its sign: a blank, or the minus.
 [[nodiscard]] QString signedText(int number);
+
+/// "Left", "Up", "Right" or "Down".
+[[nodiscard]] QString directionName(store::LinkSide side);
 
 /// The box behind the scene size alert. `size` is that of the scene's picture, in pixels.
 [[nodiscard]] forms::Box sceneSizeAlert(QSize size);

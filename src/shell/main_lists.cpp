@@ -5,6 +5,12 @@
 
 namespace quorvel::shell {
 
+namespace {
+
+constexpr int kVisibleRows = 16;
+
+}  // namespace
+
 MainLists::MainLists(forms::ProjectListModels& models, QWidget* owner) : QObject(owner) {
     Combo1 = add("Combo1", models.scenes, "(Cancel)");
     LocList = add("LocList", models.locations, "(Cancel)");
@@ -27,6 +33,10 @@ QComboBox* MainLists::add(const char* name, forms::RecordListModel& source, cons
     auto* view = new QListView(combo);
     view->setUniformItemSizes(true);
     combo->setView(view);
+    // A list with a scroll bar instead of one as high as the screen; and it opens at once, since
+    // only what is seen of it is measured.
+    combo->setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+    combo->setMaxVisibleItems(kVisibleRows);
     combo->hide();
     auto* model = new forms::HeadedListModel(&source, QString(), combo, textRole);
     combo->setModel(model);

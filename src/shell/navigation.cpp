@@ -1,5 +1,8 @@
 #include "shell/navigation.h"
 
+#include <algorithm>
+#include <exception>
+
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
@@ -32,7 +35,10 @@ Navigation::Navigation(const House& house) : house_(house) {
             [this] { dropDown(*house_.lists.LocList, *house_.side.Command7); });
     connect(house_.lists.Combo1, &QComboBox::activated, this, &Navigation::Combo1_Click);
     connect(house_.lists.LocList, &QComboBox::activated, this, &Navigation::LocList_Click);
-    connect(side.CurScene, &QLineEdit::editingFinished, this, &Navigation::CurScene_Click);
+    connect(side.CurScene, &QLineEdit::returnPressed, this, &Navigation::CurScene_Click);
+    // A number that was not confirmed is given up.
+    connect(side.CurScene, &QLineEdit::editingFinished, this,
+            [this] { house_.side.showSceneNumber(house_.project.CurrentScene); });
 }
 
 void Navigation::follow(int number) {
@@ -50,9 +56,16 @@ void Navigation::follow(int number) {
 }
 
 void Navigation::step(int distance) {
-    const int number = house_.project.CurrentScene + distance;
-    if (number >= 1 && number <= house_.project.NumberOfScenes) {
+    // A project can name a current scene beyond its store; the way back ends at the last one.
+    const int number =
+        std::min(house_.project.CurrentScene + distance, house_.project.NumberOfScenes);
+    if (number < 1 || number == house_.project.CurrentScene) {
+        return;
+    }
+    try {
         house_.keeper.GoToScene(number);
+    } catch (const std::exception&) {
+        house_.boxes.tell(QStringLiteral("Unexpected error in procedure: Command5_Click"));
     }
 }
 
@@ -63,6 +76,7 @@ void Navigation::tell(const QString& text) {
 void Navigation::Combo1_Click(int row) {
     const store::Project& project = house_.project;
     if (row < 1 || row > project.NumberOfScenes) {
+        follow(project.CurrentScene);
         return;
     }
     if (row == project.CurrentScene) {
@@ -97,20 +111,17 @@ void Navigation::LocList_Click(int row) {
 }
 
 void Navigation::CurScene_Click() {
+    // The field shows the current number again as soon as its editing has finished.
     const store::Project& project = house_.project;
     const int typed = store::valInt(house_.side.CurScene->text().toStdString());
     if (typed == project.CurrentScene || project.CurrentScene == 0) {
-        house_.side.showSceneNumber(project.CurrentScene);
         return;
     }
     if (typed < 1 || typed > project.NumberOfScenes) {
         QApplication::beep();
-        house_.side.showSceneNumber(project.CurrentScene);
         return;
     }
-    if (!house_.keeper.GoToScene(typed)) {
-        house_.side.showSceneNumber(project.CurrentScene);
-    }
+    house_.keeper.GoToScene(typed);
 }
 
 }  // namespace quorvel::shell

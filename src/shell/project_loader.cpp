@@ -131,7 +131,6 @@ void ProjectLoader::showFirstScene() {
     house_.main.lists().Combo1->setCurrentIndex(0);
     house_.main.side().showSceneNumber(sceneToShow_);
     house_.project.ProjectLoading = true;
-    house_.main.status().setCount(QStringLiteral("Objects: ..."));
     house_.keeper.LoadScene(sceneToShow_);
     house_.keeper.showScene();
 }

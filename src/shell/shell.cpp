@@ -67,6 +67,8 @@ void Shell::loadMain() {
                                                     surroundings_.boxes, traps_);
     connect(keeper_.get(), &canvas::SceneKeeper::sceneAdded, &models_.scenes,
             &forms::RecordListModel::append);
+    connect(keeper_.get(), &canvas::SceneKeeper::sceneLoading, &main_->status(),
+            [this] { main_->status().setCount(QStringLiteral("Objects: ...")); });
     loadActions();
     navigation_ = std::make_unique<Navigation>(
         Navigation::House{project_, *keeper_, surroundings_.boxes, main_->side(), main_->lists()});

@@ -44,6 +44,7 @@ void Shell::refreshCommands() {
         state.available.insert(command);
     }
     main_->applyCommandState(state, settings_);
+    actions_->setSceneEntries(state.projectOpen, state.roomForObject);
 }
 
 void Shell::ToggleAnimations(bool on) {

@@ -218,12 +218,14 @@ class AllWindows : public ShellFixture, public ::testing::WithParamInterface<Loo
     }
     /// Checks the window `name`, which the menu entry `entry` opens.
     void checkOpenedBy(const QString& entry, const QString& name) {
-        withWindow(
-            name, [&] { action(entry).trigger(); },
-            [&](QWidget& window) {
-                check(window, name);
-                window.close();
-            });
+        checkShownBy([&] { action(entry).trigger(); }, name);
+    }
+    void checkShownBy(const std::function<void()>& routine, const QString& name) {
+        start({text(someProject().projectPath())});
+        withWindow(name, routine, [&](QWidget& window) {
+            check(window, name);
+            window.close();
+        });
     }
     static void picture(QWidget& window, const QString& name) {
         const QDir folder(QCoreApplication::applicationDirPath() +
@@ -366,6 +368,15 @@ TEST_P(AllWindows, CopyingAFile) {
     forms::CopyingFile window(QStringLiteral("introduction.avi"), nullptr);
     window.show(40, 100);
     check(window, QStringLiteral("CopyingFile"));
+}
+
+TEST_P(AllWindows, SizingALink) {
+    checkShownBy(
+        [this] {
+            shell->actions().dragging().CurrentLink = 4;
+            shell->actions().showResize();
+        },
+        QStringLiteral("ResizeD"));
 }
 
 TEST_P(AllWindows, Boxes) {
