@@ -135,6 +135,15 @@ bool Capture::waitForFrames(std::size_t number, std::size_t count) {
     });
 }
 
+void Capture::forget() {
+    const std::lock_guard lock(mutex_);
+    for (Take& take : takes_) {
+        if (take.closed) {
+            std::vector<float>().swap(take.samples);
+        }
+    }
+}
+
 void Capture::release() {
     const std::lock_guard lock(mutex_);
     released_ = true;

@@ -53,6 +53,9 @@ class Capture {
     /// True once take `number` has `count` frames; false when that takes over ten seconds.
     bool waitForFrames(std::size_t number, std::size_t count);
 
+    /// Lets go the samples of all takes that are closed.
+    void forget();
+
     /// Lets a wedged device go on.
     void release();
 
