@@ -24,7 +24,10 @@ namespace quorvel::test {
 inline bool waitUntil(const std::function<bool()>& done,
                       std::chrono::milliseconds patience = std::chrono::seconds(15)) {
     const auto end = std::chrono::steady_clock::now() + patience;
-    while (!done() && std::chrono::steady_clock::now() < end) {
+    while (std::chrono::steady_clock::now() < end) {
+        if (done()) {
+            return true;
+        }
         QCoreApplication::processEvents();
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
