@@ -17,6 +17,9 @@ class Preview : public QObject {
   public:
     using QObject::QObject;
 
+    /// Makes the first sound come without delay. To be called once the main window stands.
+    virtual void prepare() = 0;
+
     /// `channel` is 0 to 15. `loop`: round and round until it is stopped.
     virtual void PlayWav(const QString& name, int volume, int pan, int channel,
                          bool loop = false) = 0;
@@ -39,7 +42,13 @@ class Preview : public QObject {
     virtual void SetMovieVolume(int volume) = 0;
     virtual void StopMovie() = 0;
 
+    /// Gives back what plays soundtracks; false when the sound system hangs. A later PlayMp3()
+    /// builds it anew.
+    virtual bool CloseMediaEngine() = 0;
+
   Q_SIGNALS:
+    /// This machine lacks what sounds need; previews stay silent. `reason` is for the author.
+    void unavailable(const QString& reason);
     /// A sound that plays once came to its end by itself; silent failures end too.
     void wavEnded(int channel);
     void midiEnded();

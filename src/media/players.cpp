@@ -42,9 +42,10 @@ Players::Players(std::shared_ptr<JobQueue> queue, PlayersSetup setup)
 void Players::prepare() {
     try {
         startGStreamer();
-    } catch (const MediaError&) {
-        // The first play meets it again, and tells.
-        return;
+        makeElement("appsrc");
+        const AudioTail tail(setup_.sink);
+    } catch (const MediaError& error) {
+        setup_.unavailable(error.what());
     }
 }
 

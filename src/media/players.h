@@ -38,6 +38,8 @@ struct PlayersSetup {
     /// Called on the media thread when a play has ended by itself: its id, and words for what
     /// went wrong, empty when nothing did.
     std::function<void(std::size_t slot, std::uint64_t id, const std::string& error)> ended;
+    /// Called on the media thread when prepare() finds that sounds cannot be played.
+    std::function<void(const std::string& reason)> unavailable;
 };
 
 /// Made and let go on any thread; everything else only in the jobs of the queue. No routine throws.
@@ -45,7 +47,7 @@ class Players : public std::enable_shared_from_this<Players> {
   public:
     Players(std::shared_ptr<JobQueue> queue, PlayersSetup setup);
 
-    /// Starts GStreamer, which the first play does otherwise.
+    /// Starts GStreamer, which the first play does otherwise, and builds what a sound needs.
     void prepare();
     /// Replaces what the slot plays.
     void play(std::size_t slot, const PlayOrder& order);

@@ -34,6 +34,9 @@ PreviewEngine::PreviewEngine(PreviewOptions options, QObject* parent)
         outbox->post(
             [this, slot, id, words = QString::fromStdString(error)] { onEnded(slot, id, words); });
     };
+    setup.unavailable = [this, outbox = outbox_](const std::string& reason) {
+        outbox->post([this, words = QString::fromStdString(reason)] { Q_EMIT unavailable(words); });
+    };
     players_ = std::make_shared<Players>(thread_.queue(), std::move(setup));
     MP3Timer_.setObjectName(QStringLiteral("MP3Timer"));
     MP3Timer_.setInterval(kTick);

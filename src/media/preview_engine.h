@@ -25,7 +25,7 @@ struct PreviewOptions {
     /// Where sound goes, in the language of gst-launch; each play has one of its own.
     std::string sink = "autoaudiosink";
     /// The instruments of MIDI; empty for the first that the system has.
-    std::filesystem::path soundFont;
+    std::filesystem::path soundFont = {};
     /// How long CloseMediaEngine() and the destructor wait for a sound device that hangs.
     std::chrono::milliseconds patience{2000};
 };
@@ -57,8 +57,9 @@ class PreviewEngine : public QObject {
     /// that hangs.
     ~PreviewEngine() override;
 
-    /// Starts the sound library ahead of the first order, so that this is heard without delay. To
-    /// be called when the main window stands.
+    /// Starts the sound library ahead of the first order, so that this is heard without delay, and
+    /// looks whether all is there that sounds need; if not, unavailable() tells. To be called when
+    /// the main window stands.
     void prepare();
 
     /// Plays `file` once, or round and round without a gap, in place of what the channel played.
@@ -108,6 +109,9 @@ class PreviewEngine : public QObject {
     [[nodiscard]] QString lastError() const { return lastError_; }
 
   Q_SIGNALS:
+    /// After prepare(): sounds will be silent; why, in words. A machine without a device is no
+    /// reason.
+    void unavailable(const QString& reason);
     void wavEnded(int channel);
     void midiEnded();
     void mp3Ended();

@@ -106,6 +106,7 @@ void Main::buildCentre(store::Project& project, store::Scene& scene,
     scroll->setAlignment(Qt::AlignCenter);
     view_ = new canvas::SceneView(project, scene, pictures, scroll);
     scroll->setWidget(view_);
+    movieArea_ = scroll->viewport();
     side_ = new SidePanel(centre);
     status_ = new StatusLines(centre);
 

@@ -41,6 +41,8 @@ class Main : public QMainWindow {
     [[nodiscard]] canvas::SceneView& view() { return *view_; }
     [[nodiscard]] SidePanel& side() { return *side_; }
     [[nodiscard]] StatusLines& status() { return *status_; }
+    /// The widget over whose middle movies are shown.
+    [[nodiscard]] QWidget& movieArea() { return *movieArea_; }
     [[nodiscard]] MainLists& lists() { return *lists_; }
 
     /// Size and state for a screen of `screen` pixels, then shows the window.
@@ -94,6 +96,7 @@ class Main : public QMainWindow {
     QToolBar* toolBar_ = nullptr;
     QAction* folder_ = nullptr;
     canvas::SceneView* view_ = nullptr;
+    QWidget* movieArea_ = nullptr;
     SidePanel* side_ = nullptr;
     StatusLines* status_ = nullptr;
     MainLists* lists_ = nullptr;

@@ -69,6 +69,7 @@ void Shell::loadMain() {
             &forms::RecordListModel::append);
     connect(keeper_.get(), &canvas::SceneKeeper::sceneLoading, &main_->status(),
             [this] { main_->status().setCount(QStringLiteral("Objects: ...")); });
+    loadPreview();
     loadActions();
     navigation_ = std::make_unique<Navigation>(
         Navigation::House{project_, *keeper_, surroundings_.boxes, main_->side(), main_->lists()});
@@ -82,6 +83,24 @@ void Shell::loadMain() {
     });
     answerCommands();
     refreshCommands();
+}
+
+void Shell::loadPreview() {
+    PreviewParts parts = surroundings_.makePreview(project_, &main_->movieArea());
+    preview_ = std::move(parts.preview);
+    if (parts.moviePlayer != nullptr) {
+        parts.moviePlayer->setObjectName(QStringLiteral("MoviePlayer1"));
+    }
+    connect(preview_.get(), &forms::Preview::unavailable, this, [this](const QString& reason) {
+        surroundings_.boxes.tell(
+            QStringLiteral("Error intializing DirectSound for WAV audio (form_Main)\n\n") + reason);
+    });
+}
+
+void Shell::stopPreviews() {
+    preview_->StopMp3();
+    preview_->StopAllWavs();
+    preview_->StopMidi();
 }
 
 void Shell::loadActions() {
@@ -109,6 +128,7 @@ void Shell::InitializeEditor() {
     refreshCommands();
     EditorRunning = true;
     main_->showFor(surroundings_.screenSize());
+    preview_->prepare();
     openCommandLine();
 }
 
@@ -239,6 +259,8 @@ bool Shell::CloseProject() {
 }
 
 void Shell::closeShellHalf() {
+    stopPreviews();
+    preview_->StopMovie();
     main_->side().ObjAlert->hide();
     main_->side().ScnAlert->hide();
     main_->side().RestoreObjs->setEnabled(false);
@@ -269,14 +291,21 @@ void Shell::ExitProgram() {
     }
     shuttingDown_ = true;
     if (main_) {
+        stopPreviews();
         if (project_.ProjectOpen && !CloseProject()) {
             shuttingDown_ = false;
             return;
         }
         main_->showShutdown();
+        preview_->StopMovie();
         forms::letEventsRun();
         EditorRunning = false;
         main_->hide();
+        if (!preview_->CloseMediaEngine()) {
+            surroundings_.boxes.show(
+                {.text = QStringLiteral("Unable to Terminate DirectShow Engine Successfully."),
+                 .title = QStringLiteral("Warning")});
+        }
     }
     surroundings_.quit();
 }

@@ -15,6 +15,7 @@
 #include "forms/file_choice.h"
 #include "forms/intake_boxes.h"
 #include "forms/pictures.h"
+#include "forms/preview.h"
 #include "forms/record_lists.h"
 #include "forms/traps.h"
 #include "shell/commands.h"
@@ -74,6 +75,7 @@ class Shell : public QObject {
     [[nodiscard]] Main& mainWindow() { return *main_; }
     [[nodiscard]] canvas::ObjectActions& actions() { return *actions_; }
     [[nodiscard]] forms::FileChoice& fileChoice() { return fileChoice_; }
+    [[nodiscard]] forms::Preview& preview() { return *preview_; }
 
     QString InstallPath;         ///< with a separator at its end
     QString HelpFile;            ///< the first page of the help
@@ -81,7 +83,9 @@ class Shell : public QObject {
 
   private:
     void loadMain();
+    void loadPreview();
     void loadActions();
+    void stopPreviews();
     void answerCommands();
     void runCommand(Command command);
     void refreshCommands();
@@ -109,6 +113,7 @@ class Shell : public QObject {
     resources::Intake intake_;
     forms::FileChoice fileChoice_;
     std::unique_ptr<Main> main_;
+    std::unique_ptr<forms::Preview> preview_;
     std::unique_ptr<canvas::SceneKeeper> keeper_;
     std::unique_ptr<canvas::ObjectActions> actions_;
     std::unique_ptr<Navigation> navigation_;

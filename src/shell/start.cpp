@@ -6,6 +6,8 @@
 #include <QStandardPaths>
 
 #include "forms/look.h"
+#include "forms/movie_player.h"
+#include "forms/project_preview.h"
 #include "shell/termination_signals.h"
 
 namespace quorvel::shell {
@@ -23,6 +25,17 @@ bool StartForm::begin() {
     splash_->show();
     return true;
 }
+
+namespace {
+
+PreviewParts makePreview(const store::Project& project, QWidget* movieArea) {
+    auto preview = std::make_unique<forms::ProjectPreview>(project, media::PreviewOptions{});
+    // Movies end before the widget does: the shell lets the preview go first.
+    auto* player = new forms::MoviePlayer(preview->movieFrames(), movieArea);
+    return {std::move(preview), player};
+}
+
+}  // namespace
 
 int runEditor(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -42,6 +55,7 @@ int runEditor(int argc, char** argv) {
                  .screenSize = [] { return QGuiApplication::primaryScreen()->size(); },
                  .random = [] { return QRandomGenerator::global()->generateDouble(); },
                  .quit = [] { QCoreApplication::quit(); },
+                 .makePreview = makePreview,
                  .programFolder = QCoreApplication::applicationDirPath(),
                  .userFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
                  .arguments = QCoreApplication::arguments().mid(1)});

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include <QSize>
 #include <QString>
@@ -9,9 +10,17 @@
 
 #include "forms/boxes.h"
 #include "forms/file_dialogs.h"
+#include "forms/preview.h"
 #include "resources/programs.h"
+#include "store/project.h"
 
 namespace quorvel::shell {
+
+/// What plays sounds and movies, and the widget in which its movies are seen.
+struct PreviewParts {
+    std::unique_ptr<forms::Preview> preview;
+    QWidget* moviePlayer = nullptr;  ///< a child of the area that it was made for; null for none
+};
 
 /// Everything named here must outlive the shell.
 struct Surroundings {
@@ -21,9 +30,11 @@ struct Surroundings {
     std::function<QSize()> screenSize;  ///< in pixels
     std::function<double()> random;     ///< from 0 up to but not including 1
     std::function<void()> quit;         ///< ends the event loop
-    QString programFolder;              ///< folder of the running program
-    QString userFolder;                 ///< per-user data folder, made at need
-    QStringList arguments;              ///< project files of the command line
+    /// Makes the preview of a project, with its movies in the middle of a widget.
+    std::function<PreviewParts(const store::Project&, QWidget* movieArea)> makePreview;
+    QString programFolder;  ///< folder of the running program
+    QString userFolder;     ///< per-user data folder, made at need
+    QStringList arguments;  ///< project files of the command line
 };
 
 }  // namespace quorvel::shell

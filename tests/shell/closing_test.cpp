@@ -280,17 +280,7 @@ TEST_F(Closing, TheWindowsCloseButtonLeavesTheEditor) {
 }
 
 TEST_F(Closing, WithoutLoadedWindowsItEndsAtOnce) {
-    shell = std::make_unique<shell::Shell>(shell::Surroundings{
-        .boxes = boxes,
-        .dialogs = dialogs,
-        .programs = programs,
-        .screenSize = [] { return QSize(1280, 800); },
-        .random = [] { return 0.5; },
-        .quit = [this] { ++quits; },
-        .programFolder = {},
-        .userFolder = {},
-        .arguments = {},
-    });
+    shell = std::make_unique<shell::Shell>(surroundings());
     shell->ExitProgram();
     EXPECT_EQ(quits, 1);
 }

@@ -24,17 +24,7 @@ class Start : public ShellFixture {
   protected:
     /// An editor that has not been started, for a screen of `screen` pixels.
     void makeShell(QSize screen, const QStringList& arguments = {}) {
-        shell = std::make_unique<shell::Shell>(shell::Surroundings{
-            .boxes = boxes,
-            .dialogs = dialogs,
-            .programs = programs,
-            .screenSize = [screen] { return screen; },
-            .random = [] { return 0.5; },
-            .quit = [this] { ++quits; },
-            .programFolder = QCoreApplication::applicationDirPath(),
-            .userFolder = text(home.path() / "data"),
-            .arguments = arguments,
-        });
+        shell = std::make_unique<shell::Shell>(surroundings(arguments, screen));
     }
     const QString name =
         QStringLiteral("quorvel-test-%1").arg(QRandomGenerator::global()->generate());
@@ -217,6 +207,7 @@ TEST_F(Start, ASecondEditorShowsNothingAndActivatesTheFirst) {
                         .screenSize = [] { return QSize(640, 480); },
                         .random = [] { return 0.5; },
                         .quit = [] {},
+                        .makePreview = {},
                         .programFolder = QCoreApplication::applicationDirPath(),
                         .userFolder = text(home.path() / "data"),
                         .arguments = {}});

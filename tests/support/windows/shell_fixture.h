@@ -12,6 +12,7 @@
 #include "support/project_builder.h"
 #include "support/temp_folder.h"
 #include "support/windows/played_author.h"
+#include "support/windows/recorded_preview.h"
 
 namespace quorvel::test {
 
@@ -22,6 +23,9 @@ class ShellFixture : public ::testing::Test {
     /// Starts the editor as after the splash, on a screen of `screen` pixels, with the projects of
     /// the command line.
     void start(const QStringList& arguments = {}, QSize screen = {1280, 800});
+
+    /// What the editor is given; a test may change it and make a shell of its own.
+    shell::Surroundings surroundings(const QStringList& arguments = {}, QSize screen = {1280, 800});
 
     /// Ends the editor of this test and forgets it; `start` begins another with the same settings.
     void leave();
@@ -38,6 +42,8 @@ class ShellFixture : public ::testing::Test {
     PlayedPrograms programs;
     double nextRandom = 0.5;
     int quits = 0;
+    /// What the editor previews; it belongs to the shell.
+    RecordedPreview* preview = nullptr;
     std::unique_ptr<shell::Shell> shell;
 };
 
