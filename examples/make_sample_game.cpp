@@ -13,7 +13,9 @@
 #include <QImageWriter>
 #include <QPainter>
 
+#include "art/beacon_movie.h"
 #include "art/item_art.h"
+#include "files/avi_file.h"
 #include "files/cursor_file.h"
 #include "files/gif_file.h"
 #include "game/story.h"
@@ -129,6 +131,9 @@ void makeGame(const fs::path& folder, const fs::path& previews) {
         const SceneArt art = plan.paint();
         store::SaveScene(project, plan.build(art), plan.number);
         finish(art);
+        if (plan.number == kBoatsHome) {
+            writeAvi(mmedia / "Beacon.avi", beaconMovie(art.picture));
+        }
     }
     project.NumberOfScenes = project.sceneFile.count();
     const SceneArt map = mapArt();

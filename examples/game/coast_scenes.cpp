@@ -164,6 +164,7 @@ store::Scene boatsHome(const SceneArt& art) {
     SceneBuilder scene("Boats Home", art);
     scene.soundtrack("KeepWaltz.mid", 0);
     scene.sound("Waves.wav", -1100, 0);
+    scene.movieOnEnter("Beacon.avi", 90);
     scene.setFlagOnEnter({kBeaconLit, 1});
     scene.insert(1, Type::ambient, "Ripples.gif");
     scene.insert(2, Type::ambient, "Lanterns.gif").number(Ambient::Style, kPingPong);

@@ -104,6 +104,11 @@ void SceneBuilder::soundtrack(const std::string& file, int volume) {
     scene_.header(store::HeaderInt::SceneSoundtrackVolume) = small(volume);
 }
 
+void SceneBuilder::movieOnEnter(const std::string& file, int volume) {
+    scene_.header(store::HeaderString::SceneEnterMovie) = file;
+    scene_.header(store::HeaderInt::SceneEnterMovieVolume) = small(volume);
+}
+
 void SceneBuilder::sound(const std::string& file, int volume, int pan) {
     // The third sound of a scene is the one that loops.
     scene_.header(store::HeaderString::SceneSound3File) = file;

@@ -71,6 +71,7 @@ class SceneBuilder {
     void link(store::LinkSide side, int scene);
     void soundtrack(const std::string& file, int volume);
     void sound(const std::string& file, int volume, int pan);
+    void movieOnEnter(const std::string& file, int volume);
     void setFlagOnEnter(const FlagValue& value);
     void switchSceneWhen(const FlagValue& value, int scene);
 

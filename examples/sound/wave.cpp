@@ -71,6 +71,16 @@ void Wave::normalise(double level) {
     }
 }
 
+std::vector<std::int16_t> Wave::samples() const {
+    std::vector<std::int16_t> numbers;
+    numbers.reserve(samples_.size());
+    for (const double sample : samples_) {
+        numbers.push_back(
+            static_cast<std::int16_t>(std::lround(std::clamp(sample, -1.0, 1.0) * 32767)));
+    }
+    return numbers;
+}
+
 void Wave::writeTo(const std::filesystem::path& path) const {
     const auto dataBytes = static_cast<unsigned>(samples_.size() * 2);
     Bytes bytes;
@@ -86,9 +96,8 @@ void Wave::writeTo(const std::filesystem::path& path) const {
     bytes.number16(16);
     bytes.text("data");
     bytes.number32(dataBytes);
-    for (const double sample : samples_) {
-        const auto value = static_cast<int>(std::lround(std::clamp(sample, -1.0, 1.0) * 32767));
-        bytes.number16(static_cast<unsigned>(value));
+    for (const std::int16_t sample : samples()) {
+        bytes.number16(static_cast<unsigned>(sample) & 0xFFFFU);
     }
     bytes.writeTo(path);
 }

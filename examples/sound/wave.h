@@ -29,6 +29,8 @@ class Wave {
     void makeLoop(double overlap);
     /// Makes the loudest sample `level`.
     void normalise(double level);
+    /// The samples as 16-bit numbers.
+    [[nodiscard]] std::vector<std::int16_t> samples() const;
     /// Writes 16-bit samples. Throws `std::runtime_error`.
     void writeTo(const std::filesystem::path& path) const;
 

@@ -305,15 +305,19 @@ TEST_F(SampleGame, SettingsNameTheirFiles) {
     }
 }
 
-TEST_F(SampleGame, SoundsAreWavesAndTunes) {
+TEST_F(SampleGame, SoundsAreWavesTunesAndAMovie) {
     int waves = 0;
     int tunes = 0;
+    int movies = 0;
     for (const auto& entry :
          fs::directory_iterator(resourceFolder(project_.folder(), ResourceFolder::mmedia))) {
         const std::string bytes = readWholeFile(entry.path());
         if (entry.path().extension() == ".wav") {
             EXPECT_EQ(bytes.substr(0, 4) + bytes.substr(8, 8), "RIFFWAVEfmt ") << entry.path();
             ++waves;
+        } else if (entry.path().extension() == ".avi") {
+            EXPECT_EQ(bytes.substr(0, 4) + bytes.substr(8, 4), "RIFFAVI ") << entry.path();
+            ++movies;
         } else {
             EXPECT_EQ(entry.path().extension(), ".mid");
             EXPECT_EQ(bytes.substr(0, 4), "MThd") << entry.path();
@@ -322,6 +326,7 @@ TEST_F(SampleGame, SoundsAreWavesAndTunes) {
     }
     EXPECT_GE(waves, 6);
     EXPECT_GE(tunes, 1);
+    EXPECT_EQ(movies, 1);
 }
 
 TEST_F(SampleGame, NoFileIsUnused) {
