@@ -4,7 +4,9 @@
 #include <QFile>
 #include <QPainter>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 // Resources of a static library are not found until they are named; the macro wants the global
 // namespace.
@@ -63,6 +65,36 @@ QPalette darkPalette() {
                       .disabled = QColor(0x82878f)});
 }
 
+/// The base style draws the edges of boxes and circles darker than the window, where a dark window
+/// swallows them.
+class OutlinedStyle : public QProxyStyle {
+  public:
+    OutlinedStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        const bool circle = element == PE_IndicatorRadioButton;
+        if ((!circle && element != PE_IndicatorCheckBox) ||
+            option->palette.color(QPalette::Window).lightness() > 127) {
+            return;
+        }
+        QColor edge = option->palette.color(QPalette::WindowText);
+        edge.setAlphaF((option->state & State_Enabled) != 0 ? 0.55F : 0.3F);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(edge);
+        painter->setBrush(Qt::NoBrush);
+        const QRectF frame = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+        if (circle) {
+            painter->drawEllipse(frame);
+        } else {
+            painter->drawRoundedRect(frame, 2, 2);
+        }
+        painter->restore();
+    }
+};
+
 QPixmap faded(const QPixmap& pixmap) {
     constexpr double kOpacity = 0.35;
     QPixmap result(pixmap.size());
@@ -86,7 +118,7 @@ Look lookFromEnvironment() {
 
 void applyLook(QApplication& application, Look look) {
     initAssets();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new OutlinedStyle);
     if (look == Look::light) {
         QApplication::setPalette(lightPalette());
     } else if (look == Look::dark) {

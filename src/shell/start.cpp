@@ -38,6 +38,10 @@ PreviewParts makePreview(const store::Project& project, QWidget* movieArea) {
 }  // namespace
 
 int runEditor(int argc, char** argv) {
+    // A library behind the sound devices talks to the console about each one that is not there.
+    if (!qEnvironmentVariableIsSet("ALSOFT_LOGLEVEL")) {
+        qputenv("ALSOFT_LOGLEVEL", "0");
+    }
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quorvel"));
     QApplication::setOrganizationName(QStringLiteral("TessaroonWorks"));

@@ -6,9 +6,11 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QFile>
 #include <QImageReader>
 #include <QPalette>
+#include <QRadioButton>
 #include <QStyle>
 
 namespace quorvel::test {
@@ -71,6 +73,26 @@ TEST_F(LookOfTheProgram, TextCanBeRead) {
         EXPECT_GE(contrast(palette, QPalette::HighlightedText, QPalette::Highlight), 3.0);
         EXPECT_NE(palette.color(QPalette::Disabled, QPalette::ButtonText),
                   palette.color(QPalette::Active, QPalette::ButtonText));
+    }
+}
+
+TEST_F(LookOfTheProgram, TheEdgesOfOptionsAndChecksStandOut) {
+    for (const Look look : {Look::light, Look::dark}) {
+        const QPalette palette = paletteOf(look);
+        QRadioButton option;
+        QCheckBox check;
+        for (QAbstractButton* button :
+             {static_cast<QAbstractButton*>(&option), static_cast<QAbstractButton*>(&check)}) {
+            button->resize(button->sizeHint());
+            const QImage image = button->grab().toImage();
+            const double ground = luminance(palette.color(QPalette::Window)) + 0.05;
+            double most = 1;
+            for (int x = 0; x < image.width(); ++x) {
+                const double seen = luminance(image.pixelColor(x, image.height() / 2)) + 0.05;
+                most = std::max(most, std::max(seen, ground) / std::min(seen, ground));
+            }
+            EXPECT_GE(most, look == Look::dark ? 2.5 : 1.5) << button->metaObject()->className();
+        }
     }
 }
 
