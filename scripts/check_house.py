@@ -25,6 +25,8 @@ POSIX_HEADERS = {
     "unistd.h", "utime.h", "wordexp.h",
 }
 POSIX_FOLDERS = ("arpa/", "linux/", "net/", "netinet/", "sys/")
+# How an include of a floor beside src begins.
+BESIDE = tuple(f"{name}/" for name in house_tree.BESIDE)
 ASSETS = (".gif", ".ico", ".jpg", ".png", ".qrc", ".svg")
 
 
@@ -69,7 +71,7 @@ class House:
         table = {name: [below for below in row if below in self.links]
                  for name, row in self.table.items() if name in self.links}
         for floor in self.links:
-            path = f"src/{floor}/CMakeLists.txt"
+            path = f"{self.tree.floor_folder(floor)}/CMakeLists.txt"
             if floor not in self.table:
                 self.fault(path, 1, f"floor {floor} is not in the table of {ARCHITECTURE}")
                 continue
@@ -87,9 +89,12 @@ class House:
             if name not in self.links:
                 self.fault(f"src/{name}", 1, "a folder below src that is not a floor")
 
+    def floor_sources(self):
+        return [path for top in ("src", *house_tree.BESIDE) for path in self.tree.sources(top)]
+
     def includes(self):
-        for path in self.tree.sources("src"):
-            floor = path.split("/")[1] if path.count("/") > 1 else "main"
+        for path in self.floor_sources():
+            floor = self.tree.floor_of(path)
             allowed = {floor} | self.below(self.links, floor)
             if floor == "main":
                 allowed = {"shell"}
@@ -120,24 +125,26 @@ class House:
             self.fault(path, line, f'"{name}" does not carry its folder')
         elif ".." in name.split("/") or name.startswith("/"):
             self.fault(path, line, f'"{name}" is not a path from the top')
-        elif not any(self.tree.exists(f"{top}/{name}") for top in self.include_tops(path)):
+        elif not (any(self.tree.exists(f"{top}/{name}") for top in self.include_tops(path)) or
+                  (name.startswith(BESIDE) and self.tree.exists(name))):
             self.fault(path, line, f'"{name}" is not there')
 
     @staticmethod
     def include_tops(path):
         top = path.split("/")[0]
-        return ("src",) if top == "src" else ("src", "tests", top)
+        return ("src",) if top in ("src", *house_tree.BESIDE) else ("src", "tests", top)
 
     # -- units -------------------------------------------------------------------------------
 
     def circles(self):
         """Header and source of one name are one unit; units must not include each other."""
         edges, where = {}, {}
-        for path in self.tree.sources("src"):
+        for path in self.floor_sources():
             unit = posixpath.splitext(path)[0]
             for line, quoted, name in self.tree.includes(path):
-                other = "src/" + posixpath.splitext(name)[0]
-                if quoted and other != unit and self.tree.exists("src/" + name):
+                file = name if name.startswith(BESIDE) else "src/" + name
+                other = posixpath.splitext(file)[0]
+                if quoted and other != unit and self.tree.exists(file):
                     edges.setdefault(unit, set()).add(other)
                     where.setdefault((unit, other), (path, line))
         for unit in sorted(edges):
@@ -155,7 +162,7 @@ class House:
     def operating_system(self):
         allowed = self.tree.system_units(ARCHITECTURE)
         used = set()
-        for top in ("src", "examples"):
+        for top in ("src", "examples", "player"):
             for path in self.tree.sources(top):
                 for line, quoted, name in self.tree.includes(path):
                     if quoted or not (name in POSIX_HEADERS or name.startswith(POSIX_FOLDERS)):
@@ -169,7 +176,7 @@ class House:
             self.fault(ARCHITECTURE, allowed[path], f"{path} includes no system header any more")
 
     def sources_are_built(self):
-        for top in ("src", "tests", "bench", "examples"):
+        for top in ("src", "tests", "bench", "examples", "player"):
             built = self.tree.built_sources(top)
             for path in self.tree.sources(top):
                 if path.endswith(".cpp") and path not in built:
@@ -184,7 +191,7 @@ class House:
                 self.fault(LENGTH_LIST, line, f"{path} is not there")
             elif len(self.tree.lines(path)) <= LONGEST:
                 self.fault(LENGTH_LIST, line, f"{path} is not too long any more")
-        for top in ("src", "tests", "bench", "examples", "scripts"):
+        for top in ("src", "tests", "bench", "examples", "player", "scripts"):
             for path in self.tree.files(top, (".cpp", ".h", ".def", ".py", ".sh")):
                 count = len(self.tree.lines(path))
                 if count > LONGEST and path not in excused:
@@ -204,7 +211,7 @@ class House:
                 if word.endswith(ASSETS) and "*" not in word and "${" not in word:
                     if not self.tree.exists(word):
                         self.fault(path, line, f"{word} is not there")
-        for top in ("src", "tests", "bench"):
+        for top in ("src", "tests", "bench", "player"):
             for path in self.tree.sources(top):
                 for line, name in self.tree.resource_names(path):
                     if name not in resources:

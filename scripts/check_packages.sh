@@ -148,6 +148,10 @@ if [[ $toolsOnly == no ]]; then
         exit 1
     fi
     libraries "$program" >>"$work/needed"
+    player=$(dirname "$program")/QuorvelDefaults/Game.exe
+    if [[ -e $player ]]; then
+        libraries "$player" >>"$work/needed"
+    fi
 fi
 sort -u "$work/needed" | findPackages >"$work/found"
 

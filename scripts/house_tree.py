@@ -14,6 +14,8 @@ _SHORT_NAME = re.compile(r'\b(icon|stockPicture)\((?:QStringLiteral\()?u?"([\w-]
 _SHORT_NAME_FOLDERS = {"icon": "/icons/", "stockPicture": "/stock/"}
 _LINK = re.compile(r'(?:src|href)="([^"#:]+)(?:#[^"]*)?"')
 _FLOOR = re.compile(r"quorvel_floor\s*\(\s*(\w+)([^)]*)\)")
+# Floors that are no part of the editor and so stand beside src.
+BESIDE = ("player",)
 
 
 class Tree:
@@ -99,11 +101,22 @@ class Tree:
         return {word for path in self.cmake_lists() if path.startswith(top + "/")
                 for _, word in self.cmake_words(path)}
 
+    def floor_folder(self, floor):
+        return floor if floor in BESIDE else f"src/{floor}"
+
+    def floor_of(self, path):
+        """The floor that a source lies in; "main" for one right below src."""
+        steps = path.split("/")
+        if steps[0] in BESIDE:
+            return steps[0]
+        return steps[1] if len(steps) > 2 else "main"
+
     def floor_links(self):
-        """Floor -> floors of its link list, from src/*/CMakeLists.txt."""
+        """Floor -> floors of its link list, from the CMakeLists.txt of each floor."""
         links = {}
+        beside = "|".join(BESIDE)
         for path in self._paths:
-            if re.fullmatch(r"src/\w+/CMakeLists\.txt", path):
+            if re.fullmatch(rf"(src/\w+|{beside})/CMakeLists\.txt", path):
                 for match in _FLOOR.finditer(self.cmake_text(path)):
                     links[match[1]] = _stands_on(match[2])
         return links
@@ -112,15 +125,15 @@ class Tree:
 
     def floor_table(self, path):
         """Floor -> floors it stands on, from the rows "| 3 | `src/forms/` | ... | store, media |"
-        of a Markdown file. "nothing" is none, "all" is every other floor."""
+        of a Markdown file. "nothing" is none, "all" is every other floor below src."""
         table = {}
         for cells in self._rows(path):
-            folder = re.fullmatch(r"`src/(\w+)/`", cells[1]) if len(cells) >= 4 else None
-            if folder:
-                table[folder[1]] = re.findall(r"\w+", cells[-1])
+            folder = re.fullmatch(r"`(src/)?(\w+)/`", cells[1]) if len(cells) >= 4 else None
+            if folder and (folder[1] or folder[2] in BESIDE):
+                table[folder[2]] = re.findall(r"\w+", cells[-1])
         for floor, names in table.items():
             if names == ["all"]:
-                table[floor] = [name for name in table if name != floor]
+                table[floor] = [name for name in table if name not in (floor, *BESIDE)]
             elif names == ["nothing"]:
                 table[floor] = []
         return table

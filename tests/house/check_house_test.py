@@ -17,6 +17,7 @@ ARCHITECTURE = """
 | 2 | `src/forms/` | windows | store |
 | 3 | `src/canvas/` | the scene | forms |
 | 4 | `src/shell/` | the rest | all |
+| – | `player/` | the player | store |
 
 | Unit | Headers | Why |
 | --- | --- | --- |
@@ -45,6 +46,12 @@ HOUSE = {
         "quorvel_floor(shell SOURCES shell.cpp STANDS_ON quorvel_canvas)\n",
     "src/shell/shell.h": "",
     "src/shell/shell.cpp": '#include "shell/shell.h"\n#include "shell.moc"\n',
+    "player/CMakeLists.txt":
+        "quorvel_floor(player SOURCES game.cpp STANDS_ON quorvel_store)\n"
+        "add_executable(game main.cpp)\n",
+    "player/game.h": '#include "store/file.h"\n',
+    "player/game.cpp": '#include "player/game.h"\n',
+    "player/main.cpp": '#include "player/game.h"\n',
     "tests/CMakeLists.txt": "quorvel_test(store SOURCES file_test.cpp)\n",
     "tests/file_test.cpp": '#include "store/file.h"\n#include "support/folder.h"\n',
     "tests/support/folder.h": "#include <sys/stat.h>\n",
@@ -75,6 +82,31 @@ class PlantedFaults(unittest.TestCase):
 
     def test_a_house_in_order_has_no_fault(self):
         self.assertEqual(self.faults({}), [])
+
+    def test_a_player_that_knows_the_editor(self):
+        self.expect("player/main.cpp: player does not stand on shell: shell/shell.h",
+                    {"player/main.cpp": '#include "shell/shell.h"\n'})
+        self.expect("src/shell/shell.cpp: shell does not stand on player: player/game.h",
+                    {"src/shell/shell.cpp": '#include "player/game.h"\n'})
+
+    def test_a_player_that_is_linked_to_the_editor(self):
+        self.expect("player/CMakeLists.txt: player is linked to forms, but not in "
+                    "docs/architecture.md",
+                    {"player/CMakeLists.txt":
+                     "quorvel_floor(player SOURCES game.cpp STANDS_ON quorvel_forms)\n"
+                     "add_executable(game main.cpp)\n"})
+
+    def test_a_source_of_the_player_that_is_not_built(self):
+        self.expect("player/game.cpp: no CMakeLists.txt builds this file",
+                    {"player/CMakeLists.txt":
+                     "quorvel_floor(player STANDS_ON quorvel_store)\n"
+                     "add_executable(game main.cpp)\n"})
+
+    def test_units_of_the_player_in_a_circle(self):
+        self.expect("player/game.cpp: units include each other in a circle: "
+                    "player/game, player/main",
+                    {"player/game.cpp": '#include "player/main.h"\n',
+                     "player/main.h": '#include "player/game.h"\n'})
 
     def test_an_include_that_climbs(self):
         self.expect("src/store/file.cpp: store does not stand on forms: forms/look.h",
