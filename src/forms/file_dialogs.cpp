@@ -25,4 +25,15 @@ QString SystemFileDialogs::openFile(const FileQuestion& question) {
                                         toolkitFilter(question.filter));
 }
 
+QString SystemFileDialogs::chooseFolder(const FileQuestion& question) {
+    // Files are shown, so that the author sees whether a folder is empty.
+    QString folder = QFileDialog::getExistingDirectory(
+        QApplication::activeWindow(), question.title,
+        question.folder.isEmpty() ? QDir::homePath() : question.folder, QFileDialog::Options());
+    if (!folder.isEmpty() && !folder.endsWith(QLatin1Char('/'))) {
+        folder += QLatin1Char('/');
+    }
+    return folder;
+}
+
 }  // namespace quorvel::forms

@@ -2,7 +2,7 @@
 
 #include <QFileInfo>
 #include <QProcess>
-#include <QStringList>
+#include <QStandardPaths>
 
 namespace quorvel::resources {
 
@@ -18,6 +18,15 @@ bool SystemPrograms::start(const QString& commandLine) {
     }
     const QString program = words.takeFirst();
     return QProcess::startDetached(program, words);
+}
+
+bool SystemPrograms::run(const QString& program, const QStringList& arguments,
+                         const QString& folder) {
+    return QFileInfo(program).isFile() && QProcess::startDetached(program, arguments, folder);
+}
+
+QString SystemPrograms::find(const QString& name) {
+    return QStandardPaths::findExecutable(name);
 }
 
 }  // namespace quorvel::resources

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace quorvel::resources {
 
@@ -16,12 +17,22 @@ class Programs {
     /// of a program, or such a path with arguments, blanks quoted by double quotes. False when
     /// nothing was started.
     virtual bool start(const QString& commandLine) = 0;
+
+    /// The same for a program by its path, with arguments as they are, in the working folder
+    /// `folder`.
+    virtual bool run(const QString& program, const QStringList& arguments,
+                     const QString& folder) = 0;
+
+    /// The path of the program that the system knows as `name`; empty when it knows none.
+    virtual QString find(const QString& name) = 0;
 };
 
 /// Starts real programs.
 class SystemPrograms : public Programs {
   public:
     bool start(const QString& commandLine) override;
+    bool run(const QString& program, const QStringList& arguments, const QString& folder) override;
+    QString find(const QString& name) override;
 };
 
 }  // namespace quorvel::resources

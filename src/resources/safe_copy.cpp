@@ -90,6 +90,20 @@ class FileBeside {
         }
     }
 
+    /// Lets those run the file who can run `source`.
+    void allowToRunAs(const fs::path& source) {
+        constexpr fs::perms kRun =
+            fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
+        std::error_code error;
+        const fs::perms permissions = fs::status(source, error).permissions();
+        if (!error) {
+            fs::permissions(path_, permissions & kRun, fs::perm_options::add, error);
+        }
+        if (error) {
+            fail(target_, error);
+        }
+    }
+
     void takeName() {
         errno = 0;
         if (std::fflush(file_.get()) != 0 || !syncToDisk(file_.get()) ||
@@ -125,7 +139,8 @@ class FileBeside {
 
 }  // namespace
 
-void copySafely(const fs::path& source, const fs::path& target, const CopyProgress& progress) {
+void copySafely(const fs::path& source, const fs::path& target, const CopyProgress& progress,
+                CopyAs as) {
     store::FileHandle from = store::FileHandle::open(source);
     const std::uintmax_t total = from.size();
     FileBeside copy(target);
@@ -141,6 +156,9 @@ void copySafely(const fs::path& source, const fs::path& target, const CopyProgre
     // A source that gave less than it promised is not one that may be deleted afterwards.
     if (done < total) {
         throw RuntimeError(ErrorNumber::deviceError, source);
+    }
+    if (as == CopyAs::program) {
+        copy.allowToRunAs(source);
     }
     copy.takeName();
 }

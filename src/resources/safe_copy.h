@@ -7,17 +7,21 @@
 
 namespace quorvel::resources {
 
+/// What a copy is to be.
+enum class CopyAs : std::uint8_t { file, program };
+
 /// Told after each piece: bytes written so far and bytes in all.
 using CopyProgress = std::function<void(std::uintmax_t done, std::uintmax_t total)>;
 
 /// Copies the regular file `source` to `target`. The bytes go into a file of another name beside
 /// `target`, down to the disk, and that one is then renamed, so `target` is at every moment either
 /// the old file or the whole new one. A link at `target` is replaced, not followed. The copy is
-/// writable, not executable, and bears the present time, by which caches see that it is new.
+/// writable and bears the present time, by which caches see that it is new. It can be run only if
+/// it is copied as a program and the source can be run.
 ///
 /// Throws `store::RuntimeError` with the file that refused; what `progress` throws comes through.
 /// In both cases `target` is as before and nothing else is left behind.
 void copySafely(const std::filesystem::path& source, const std::filesystem::path& target,
-                const CopyProgress& progress = {});
+                const CopyProgress& progress = {}, CopyAs as = CopyAs::file);
 
 }  // namespace quorvel::resources

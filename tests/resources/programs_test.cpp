@@ -61,6 +61,23 @@ TEST_F(Programs, AnUnquotedPathTakesArguments) {
     EXPECT_EQ(written(), "2\none\ntwo\n");
 }
 
+TEST_F(Programs, AProgramIsRunWithItsArgumentsInItsFolder) {
+    const QString path = script("My Tools/a \"tool\"");
+    const QString here = QString::fromStdString(store::textOf(folder.path()));
+    EXPECT_TRUE(programs.run(path, {QStringLiteral("a b"), QStringLiteral("\"c\"")}, here));
+    EXPECT_EQ(written(), "2\na b\n\"c\"\n");
+    EXPECT_FALSE(programs.run(here + QStringLiteral("/nothing"), {}, here));
+    EXPECT_FALSE(programs.run(here, {}, here));
+    const fs::path plain = folder / "plain";
+    writeBytes(plain, "no program");
+    EXPECT_FALSE(programs.run(QString::fromStdString(store::textOf(plain)), {}, here));
+}
+
+TEST_F(Programs, AProgramIsFoundByItsName) {
+    EXPECT_TRUE(programs.find(QStringLiteral("sh")).endsWith(QStringLiteral("/sh")));
+    EXPECT_EQ(programs.find(QStringLiteral("no-such-program-anywhere")), QString());
+}
+
 TEST_F(Programs, WhatCannotBeStartedIsReported) {
     EXPECT_FALSE(programs.start(QString()));
     EXPECT_FALSE(programs.start(QStringLiteral("   ")));

@@ -52,6 +52,21 @@ TEST_F(SafeCopy, AnEmptyFileIsAFile) {
     EXPECT_EQ(readBytes(target), "");
 }
 
+TEST_F(SafeCopy, ACopyOfAProgramCanBeRunAsTheProgramCan) {
+    writeBytes(source, "a program");
+    fs::permissions(source, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::group_exec);
+    copySafely(source, target, {}, CopyAs::program);
+    const fs::perms permissions = fs::status(target).permissions();
+    EXPECT_NE(permissions & fs::perms::owner_exec, fs::perms::none);
+    EXPECT_NE(permissions & fs::perms::group_exec, fs::perms::none);
+    EXPECT_EQ(permissions & fs::perms::others_exec, fs::perms::none);
+    EXPECT_NE(permissions & fs::perms::owner_write, fs::perms::none);
+
+    fs::permissions(source, fs::perms::owner_read);
+    copySafely(source, target, {}, CopyAs::program);
+    EXPECT_EQ(fs::status(target).permissions() & fs::perms::owner_exec, fs::perms::none);
+}
+
 TEST_F(SafeCopy, TheCopyIsWritableAndNotExecutable) {
     writeBytes(source, "new");
     fs::permissions(source, fs::perms::owner_read | fs::perms::owner_exec);

@@ -7,6 +7,7 @@
 #include <ostream>
 #include <vector>
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
@@ -51,6 +52,10 @@ class PlayedDialogs : public forms::FileDialogs {
         asked.push_back(question);
         return choice;
     }
+    QString chooseFolder(const forms::FileQuestion& question) override {
+        asked.push_back(question);
+        return choice;
+    }
     QString choice;
     std::vector<forms::FileQuestion> asked;
 };
@@ -62,8 +67,18 @@ class PlayedPrograms : public resources::Programs {
         started << commandLine;
         return succeed;
     }
+    bool run(const QString& program, const QStringList& arguments, const QString& folder) override {
+        started << (QStringList(program) + arguments).join(QLatin1Char('|'));
+        folders << folder;
+        return whenRun ? whenRun(program, arguments) : succeed;
+    }
+    QString find(const QString& name) override { return installed.value(name); }
     bool succeed = true;
-    QStringList started;
+    QStringList started;  ///< command lines; of `run` program and arguments with "|" between
+    QStringList folders;  ///< of `run`
+    QMap<QString, QString> installed;  ///< paths of programs by their names
+    /// Answers `run` instead of `succeed`, for tests that start the real thing.
+    std::function<bool(const QString& program, const QStringList& arguments)> whenRun;
 };
 
 /// The control `name` of `window`; the test ends when there is none.
