@@ -100,7 +100,7 @@ constexpr std::array kToolPositions = {
                  "scene-properties", sceneProperties, A::project},
     ToolPosition{23, "newob", "Insert New Object", "insert-object", insertObject, A::roomForObject},
     ToolPosition{24, "", "", "", none, A::never, K::separator},
-    ToolPosition{25, "runPlayer", "Run Quorvel Player", "run-player", runPlayer, A::project},
+    ToolPosition{25, "runPlayer", "Run Quorvel Player", "run-player", runPlayerByButton, A::project},
     ToolPosition{26, "runANIM", "Run Animated GIF Editor", "run-anim", runTool1, A::tool},
     ToolPosition{27, "rungrafix", "Run Graphics Editor", "run-graphics", runTool2, A::tool},
     ToolPosition{28, "runicon", "Run Icon / Cursor Editor", "run-icon", runTool3, A::tool},

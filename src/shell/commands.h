@@ -36,6 +36,7 @@ enum class Command : std::uint8_t {
     sceneProperties,
     insertObject,
     runPlayer,
+    runPlayerByButton,  ///< the same, told in other words when it fails
     runTool1,
     runTool2,
     runTool3,

@@ -75,6 +75,7 @@ void Shell::loadMain() {
         Navigation::House{project_, *keeper_, surroundings_.boxes, main_->side(), main_->lists()});
     loader_ = std::make_unique<ProjectLoader>(
         ProjectLoader::House{project_, surroundings_.boxes, traps_, models_, *keeper_, *main_});
+    loadCreator();
     connect(main_.get(), &Main::commandChosen, this, &Shell::runCommand);
     connect(main_.get(), &Main::closeAsked, this, &Shell::ExitProgram);
     connect(&main_->view(), &canvas::SceneView::objectCountChanged, this, [this](int count) {
@@ -101,6 +102,25 @@ void Shell::stopPreviews() {
     preview_->StopMp3();
     preview_->StopAllWavs();
     preview_->StopMidi();
+}
+
+void Shell::loadCreator() {
+    const auto installPath = [this] { return InstallPath; };
+    creator_ =
+        std::make_unique<ProjectCreator>(ProjectCreator::House{.project = project_,
+                                                               .boxes = surroundings_.boxes,
+                                                               .keeper = *keeper_,
+                                                               .loader = *loader_,
+                                                               .main = *main_,
+                                                               .random = surroundings_.random,
+                                                               .installPath = installPath});
+    player_ = std::make_unique<PlayerKeeper>(
+        PlayerKeeper::House{.project = project_,
+                            .keeper = *keeper_,
+                            .boxes = surroundings_.boxes,
+                            .programs = surroundings_.programs,
+                            .installPath = installPath,
+                            .showQuickTip = [this](int number) { ShowQuickTip(number); }});
 }
 
 void Shell::loadActions() {
@@ -204,17 +224,22 @@ void Shell::showRequestedProject() {
 
 void Shell::afterLoad() {
     activate();
-    settings_.rememberProject(QString::fromStdString(project_.ProjectFolder) +
-                              QString::fromStdString(project_.ProjectFileName));
-    settings_.SaveEditorSettings();
-    main_->showRecentProjects(settings_);
-    refreshCommands();
+    rememberOpenProject();
+    player_->VerifyPlayer();
     if (project_.OldSettings) {
         tellOldSettings();
     }
     if (settings_.TipsAtStart == QStringLiteral("YesNow")) {
         settings_.TipsAtStart = QStringLiteral("Yes");
     }
+}
+
+void Shell::rememberOpenProject() {
+    settings_.rememberProject(QString::fromStdString(project_.ProjectFolder) +
+                              QString::fromStdString(project_.ProjectFileName));
+    settings_.SaveEditorSettings();
+    main_->showRecentProjects(settings_);
+    refreshCommands();
 }
 
 void Shell::tellOldSettings() {

@@ -22,6 +22,8 @@
 #include "shell/editor_settings.h"
 #include "shell/main_window.h"
 #include "shell/navigation.h"
+#include "shell/player_keeper.h"
+#include "shell/project_creator.h"
 #include "shell/project_loader.h"
 #include "shell/surroundings.h"
 #include "store/project.h"
@@ -77,6 +79,9 @@ class Shell : public QObject {
     [[nodiscard]] forms::FileChoice& fileChoice() { return fileChoice_; }
     [[nodiscard]] forms::Preview& preview() { return *preview_; }
 
+    /// Shows Quick Tip `number`, 1 to 21.
+    std::function<void(int number)> ShowQuickTip = [](int) {};
+
     QString InstallPath;         ///< with a separator at its end
     QString HelpFile;            ///< the first page of the help
     bool EditorRunning = false;  ///< from the end of the start to the shutdown
@@ -85,6 +90,7 @@ class Shell : public QObject {
     void loadMain();
     void loadPreview();
     void loadActions();
+    void loadCreator();
     void stopPreviews();
     void answerCommands();
     void runCommand(Command command);
@@ -97,6 +103,9 @@ class Shell : public QObject {
     void ResetShell();
     void closeShellHalf();
     void RunTool(int number);
+    void showNewProject();
+    bool createProject(const QString& folder, const QString& name);
+    void rememberOpenProject();
     void showSecurity();
     void showAddScene();
     void showEditorOptions();
@@ -118,6 +127,8 @@ class Shell : public QObject {
     std::unique_ptr<canvas::ObjectActions> actions_;
     std::unique_ptr<Navigation> navigation_;
     std::unique_ptr<ProjectLoader> loader_;
+    std::unique_ptr<ProjectCreator> creator_;
+    std::unique_ptr<PlayerKeeper> player_;
     std::map<Command, std::function<void()>> answers_;
     int objectCount_ = 0;
     bool shuttingDown_ = false;

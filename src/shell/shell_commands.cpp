@@ -1,21 +1,33 @@
 // What the commands of the main window run.
+#include <QDir>
+
 #include "canvas/new_scene_form.h"
 #include "game/security_editor.h"
 #include "shell/editor_options.h"
+#include "shell/new_project.h"
+#include "shell/path_text.h"
 #include "shell/shell.h"
 
 namespace quorvel::shell {
 
 using forms::Box;
 
+namespace {
+constexpr int kTipAfterCreation = 7;
+}
+
 void Shell::answerCommands() {
     answers_ = {
+        {Command::newProject, [this] { showNewProject(); }},
         {Command::openProject, [this] { ChooseProject(); }},
         {Command::closeProject, [this] { CloseProject(); }},
         {Command::exitProgram, [this] { ExitProgram(); }},
         {Command::projectSecurity, [this] { showSecurity(); }},
         {Command::addScene, [this] { showAddScene(); }},
         {Command::insertObject, [this] { insertObject(); }},
+        {Command::runPlayer, [this] { player_->RunPlayer(PlayerKeeper::AskedBy::menu); }},
+        {Command::runPlayerByButton,
+         [this] { player_->RunPlayer(PlayerKeeper::AskedBy::toolBar); }},
         {Command::editorOptions, [this] { showEditorOptions(); }},
         {Command::toggleAnimations, [this] { ToggleAnimations(!main_->view().animationsOn()); }},
         {Command::toggleBorders, [this] { ToggleBorders(!main_->view().bordersOn()); }},
@@ -53,6 +65,38 @@ void Shell::ToggleAnimations(bool on) {
 
 void Shell::ToggleBorders(bool on) {
     main_->ToggleBorders(on);
+}
+
+void Shell::showNewProject() {
+    // Beside the project that the author worked on last.
+    QDir start(settings_.hasRecent(1) ? splitPath(settings_.RecentProj.front()).folder
+                                      : QDir::homePath());
+    if (settings_.hasRecent(1) && !start.cdUp()) {
+        start.setPath(QDir::homePath());
+    }
+    NewProject window(
+        {.dialogs = surroundings_.dialogs,
+         .startFolder = start.path(),
+         .create = [this](const QString& folder,
+                          const QString& name) { return createProject(folder, name); },
+         .help = nullptr},
+        main_.get());
+    if (window.exec() == QDialog::Accepted) {
+        ShowQuickTip(kTipAfterCreation);
+    }
+}
+
+bool Shell::createProject(const QString& folder, const QString& name) {
+    if (project_.ProjectOpen && !CloseProject()) {
+        return false;
+    }
+    if (!creator_->CreateProject(folder, name)) {
+        closeShellHalf();
+        ResetShell();
+        return false;
+    }
+    rememberOpenProject();
+    return true;
 }
 
 void Shell::showSecurity() {

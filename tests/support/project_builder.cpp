@@ -263,6 +263,11 @@ void ProjectBuilder::writeResources(const fs::path& folder) const {
     }
 }
 
+ProjectBuilder& ProjectBuilder::withoutPlayer() {
+    hasPlayer_ = false;
+    return *this;
+}
+
 TestProject ProjectBuilder::build(const fs::path& folder) const {
     const TestProject files{folder, fileName_};
     Project project;
@@ -279,6 +284,9 @@ TestProject ProjectBuilder::build(const fs::path& folder) const {
     writeGameStores(project);
     writeProjectFile(project);
     writeResources(folder);
+    if (hasPlayer_) {
+        writeBytes(folder / "Game.exe", "a player without a version");
+    }
     project.SecurityOn = securityCode_ != 0;
     project.SecurityCode = securityCode_;
     WriteSecurity(project);

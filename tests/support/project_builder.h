@@ -98,6 +98,9 @@ class ProjectBuilder {
     ProjectBuilder& gfx(std::string_view name, std::string_view bytes);
     ProjectBuilder& mmedia(std::string_view name, std::string_view bytes);
 
+    /// Leaves out the file "Game.exe", which stands for a player as new as any other.
+    ProjectBuilder& withoutPlayer();
+
     /// Writes the project into `folder`, which has to exist and to hold no project yet.
     TestProject build(const std::filesystem::path& folder) const;
 
@@ -119,6 +122,7 @@ class ProjectBuilder {
 
     std::string fileName_ = "Test.qvl";
     std::int16_t securityCode_ = 0;
+    bool hasPlayer_ = true;
     int scenes_ = 0;  // 0: none was asked for
     int items_ = 0;
     int locations_ = 0;

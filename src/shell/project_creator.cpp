@@ -1,0 +1,133 @@
+#include "shell/project_creator.h"
+
+#include <utility>
+
+#include "forms/events.h"
+#include "resources/file_names.h"
+#include "resources/player_file.h"
+#include "resources/safe_copy.h"
+#include "shell/path_text.h"
+#include "store/creation.h"
+#include "store/paths.h"
+#include "store/runtime_error.h"
+#include "store/security.h"
+
+namespace quorvel::shell {
+
+namespace fs = std::filesystem;
+using forms::Box;
+using store::ErrorNumber;
+using store::RuntimeError;
+
+namespace {
+
+/// A new project opens without a progress window.
+class NoProgress : public LoadProgress {
+  public:
+    void showStatus(const QString& /*text*/) override {}
+    void step() override {}
+    void unload() override {}
+};
+
+QString withSeparator(const QString& folder) {
+    const QString full = GetLongFileName(folder);
+    const QString path = full.isEmpty() ? folder : full;
+    return path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/');
+}
+
+}  // namespace
+
+ProjectCreator::ProjectCreator(House house) : house_(std::move(house)) {}
+
+bool ProjectCreator::CreateProject(const QString& folder, const QString& name) {
+    store::Project& project = house_.project;
+    project.clear();
+    told_ = false;
+    try {
+        project.ProjectFolder = withSeparator(folder).toStdString();
+        project.ProjectFileName = (name + QStringLiteral(".qvl")).toStdString();
+        house_.main.showProjectFolder(QString::fromStdString(project.ProjectFolder));
+        checkName(name);
+        step_ = QStringLiteral("Making the folders");
+        store::makeProjectFolders(project);
+        copyDelivered();
+        makeFiles();
+        open();
+        return true;
+    } catch (const RuntimeError& error) {
+        if (!told_) {
+            house_.boxes.show(
+                {.text = QStringLiteral("The new project could not be created.\n\nStep: %1\n%2\n\n"
+                                        "Error %3 (%4)\n\nWhat was made before remains in the "
+                                        "folder.")
+                             .arg(step_, QString::fromStdString(store::textOf(error.file())),
+                                  QString::number(error.number()),
+                                  QString::fromStdString(error.description())),
+                 .title = QStringLiteral("New Project"),
+                 .icon = Box::Icon::exclamation});
+        }
+    }
+    try {
+        project.closeFiles();
+    } catch (const RuntimeError&) {
+        // The first failure has been told, and there is nothing in these files to lose.
+    }
+    return false;
+}
+
+/// The name must be a file of that folder, and not that of a project which lies there already.
+void ProjectCreator::checkName(const QString& name) {
+    step_ = QStringLiteral("Checking the project's file name");
+    const std::string& file = house_.project.ProjectFileName;
+    if (name.trimmed().isEmpty() ||
+        resources::nameFault(QString::fromStdString(file)) != resources::NameFault::none) {
+        throw RuntimeError(ErrorNumber::badFileName, store::pathOf(file));
+    }
+    std::error_code error;
+    const fs::path path = house_.project.projectPath();
+    if (fs::exists(fs::symlink_status(path, error))) {
+        throw RuntimeError(ErrorNumber::fileExists, path);
+    }
+}
+
+void ProjectCreator::copyDelivered() {
+    const fs::path master = resources::defaultPlayerPath(house_.installPath());
+    const auto target = [this](const char* name) {
+        step_ = QStringLiteral("Copying '%1'").arg(QString::fromLatin1(name));
+        return store::resolvePath(house_.project.folder(), name);
+    };
+    resources::copyPlayer(master, target("Game.exe"));
+    for (const char* name : {"ReadMe.txt", "Manual.txt"}) {
+        resources::copySafely(store::resolvePath(master.parent_path(), name), target(name));
+    }
+}
+
+void ProjectCreator::makeFiles() {
+    store::Project& project = house_.project;
+    step_ = QStringLiteral("Writing the project file");
+    project.WriteNewProjectFile();
+    project.takeProjectRecord(store::newRecord<store::ProjectRecord>());
+    // The file holds 1 until the first close, which drops the code since security is off.
+    project.SecurityOn = false;
+    project.SecurityCode = static_cast<std::int16_t>(
+        static_cast<int>(house_.random() * store::kHighestSecurityCode) + 1);
+    step_ = QStringLiteral("Writing the data files");
+    store::WriteNewStores(project);
+}
+
+void ProjectCreator::open() {
+    store::Project& project = house_.project;
+    step_ = QStringLiteral("Opening the new project");
+    project.ProjectLoading = false;
+    forms::letEventsRun();
+    NoProgress progress;
+    if (!house_.loader.ReadProjectLists(progress)) {
+        told_ = true;
+        throw RuntimeError(ErrorNumber::deviceError);
+    }
+    project.ProjectOpen = true;
+    house_.keeper.LoadScene(1);
+    house_.keeper.showScene();
+}
+
+}  // namespace quorvel::shell
