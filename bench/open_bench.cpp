@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "forms/look.h"
+#include "resources/player_file.h"
 #include "shell/shell.h"
 #include "store/creation.h"
 #include "store/scene_store.h"
@@ -28,11 +29,17 @@ class NoBoxes : public quorvel::forms::Boxes {
 class NoDialogs : public quorvel::forms::FileDialogs {
   public:
     QString openFile(const quorvel::forms::FileQuestion& /*question*/) override { return {}; }
+    QString chooseFolder(const quorvel::forms::FileQuestion& /*question*/) override { return {}; }
 };
 
 class NoPrograms : public quorvel::resources::Programs {
   public:
     bool start(const QString& /*commandLine*/) override { return false; }
+    bool run(const QString& /*program*/, const QStringList& /*arguments*/,
+             const QString& /*folder*/) override {
+        return false;
+    }
+    QString find(const QString& /*name*/) override { return {}; }
 };
 
 void writeLargeProject(const QString& folder) {
@@ -50,6 +57,10 @@ void writeLargeProject(const QString& folder) {
         store::WriteBlankScene(project, n, "Scene " + std::to_string(n), "");
     }
     project.closeFiles();
+    // Its player is looked at with each opening.
+    const QString installed = QCoreApplication::applicationDirPath() + QLatin1Char('/');
+    quorvel::resources::copyPlayer(quorvel::resources::defaultPlayerPath(installed),
+                                   project.folder() / "Game.exe");
 }
 
 double cpuSeconds() {

@@ -4,7 +4,10 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "resources/player_file.h"
+#include "resources/versions.h"
 #include "shell/path_text.h"
+#include "store/runtime_error.h"
 
 namespace quorvel::shell {
 namespace {
@@ -31,6 +34,20 @@ void copyMissing(const QString& from, const QString& to) {
     }
 }
 
+/// A newer editor brings a newer player. One that the author has put there is replaced by a higher
+/// version only.
+void renewPlayer(const QString& program, const QString& userFolder) {
+    const auto from = resources::defaultPlayerPath(withSeparator(program));
+    const auto to = resources::defaultPlayerPath(withSeparator(userFolder));
+    if (resources::CompareVersions(to, from)) {
+        try {
+            resources::copyPlayer(from, to);
+        } catch (const store::RuntimeError&) {
+            return;  // the older one plays as well
+        }
+    }
+}
+
 }  // namespace
 
 QString ResolveInstallPath(const QString& programFolder, const QString& userFolder) {
@@ -43,6 +60,7 @@ QString ResolveInstallPath(const QString& programFolder, const QString& userFold
         const QString name = QString::fromLatin1(folder);
         copyMissing(QDir(program).filePath(name), QDir(userFolder).filePath(name));
     }
+    renewPlayer(program, userFolder);
     return withSeparator(userFolder);
 }
 

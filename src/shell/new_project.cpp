@@ -4,7 +4,10 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
+#include <QStyle>
+#include <QTextLayout>
 #include <QVBoxLayout>
 
 #include "forms/events.h"
@@ -17,6 +20,36 @@ constexpr int kTextWidth = 560;
 /// A file name of a project without its ending.
 constexpr int kLongestName = 11;
 
+/// A text whose first long gap is room for the picture of the button that it speaks of.
+class TextWithButton : public QLabel {
+  public:
+    TextWithButton(const QString& text, QWidget* parent) : QLabel(text, parent) {}
+
+  protected:
+    void paintEvent(QPaintEvent* event) override {
+        QLabel::paintEvent(event);
+        const QString gap(12, QLatin1Char(' '));
+        const auto at = static_cast<int>(text().indexOf(gap));
+        QTextLayout layout(text(), font());
+        layout.beginLayout();
+        int top = 0;
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(contentsRect().width());
+            const int height = fontMetrics().lineSpacing();
+            if (at >= line.textStart() && at < line.textStart() + line.textLength()) {
+                const qreal left = line.cursorToX(at);
+                const qreal width = line.cursorToX(at + static_cast<int>(gap.size())) - left;
+                const QRect room(qRound(left), contentsRect().top() + top, qRound(width), height);
+                QPainter painter(this);
+                style()->standardIcon(QStyle::SP_FileDialogNewFolder).paint(&painter, room);
+                break;
+            }
+            top += height;
+        }
+        layout.endLayout();
+    }
+};
+
 }  // namespace
 
 NewProject::NewProject(Work work, QWidget* parent)
@@ -26,7 +59,10 @@ NewProject::NewProject(Work work, QWidget* parent)
 }
 
 QLabel* NewProject::addText(QVBoxLayout* column, const char* name, const QString& text) {
-    auto* label = new QLabel(text, this);
+    return addLabel(column, new QLabel(text, this), name);
+}
+
+QLabel* NewProject::addLabel(QVBoxLayout* column, QLabel* label, const char* name) {
     label->setObjectName(QString::fromLatin1(name));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
@@ -52,10 +88,13 @@ void NewProject::build() {
     choose_ = addButton(folderRow, QStringLiteral("Command1"), QStringLiteral("Choose Folder"));
     choose_->setAutoDefault(false);
     column->addLayout(folderRow);
-    addText(column, "Label7",
-            QStringLiteral("TIP- You can create a new folder by clicking on the            button "
-                           "in the 'Choose            Folder' Dialog Box.  After creating a new "
-                           "folder, be sure to double-click it to choose it!"));
+    addLabel(column,
+             new TextWithButton(
+                 QStringLiteral("TIP- You can create a new folder by clicking on the            "
+                                "button in the 'Choose            Folder' Dialog Box.  After "
+                                "creating a new folder, be sure to double-click it to choose it!"),
+                 this),
+             "Label7");
     column->addSpacing(forms::kFormSpacing);
 
     auto* nameRow = new QHBoxLayout;

@@ -31,6 +31,7 @@ class NewProject : public forms::Form {
 
   private:
     void build();
+    static QLabel* addLabel(QVBoxLayout* column, QLabel* label, const char* name);
     QLabel* addText(QVBoxLayout* column, const char* name, const QString& text);
     void ChooseNewFolder();
     void Text1_Change();

@@ -165,6 +165,10 @@ TEST_P(AllWindows, ProjectSecurity) {
     checkOpenedBy(QStringLiteral("projmen(12)"), QStringLiteral("ProjSecurity"));
 }
 
+TEST_P(AllWindows, NewProject) {
+    checkOpenedBy(QStringLiteral("Filemen(1)"), QStringLiteral("NewProject"));
+}
+
 TEST_P(AllWindows, NewScene) {
     checkOpenedBy(QStringLiteral("projmen(1)"), QStringLiteral("NewScenefrm"));
 }

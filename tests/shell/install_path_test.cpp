@@ -1,10 +1,12 @@
 // Where the editor's own folders lie.
 #include "shell/install_path.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include <QString>
 
+#include "resources/player_marker.h"
 #include "store/paths.h"
 #include "support/file_bytes.h"
 #include "support/mounts.h"
@@ -50,6 +52,26 @@ TEST(InstallPath, ElseIsTheAuthorsOwnFilledFromTheProgram) {
     EXPECT_EQ(readBytes(user / "QuorvelDefaults/Game.exe"), "the author's own");
     EXPECT_EQ(readBytes(user / "help/index.html"), "help");
     EXPECT_FALSE(std::filesystem::exists(user / "other"));
+}
+
+TEST(InstallPath, ANewerPlayerOfTheProgramReplacesTheAuthorsOwn) {
+    const TempFolder folder;
+    const auto program = folder.makeFolder("program");
+    const auto player = [](std::uint16_t version) {
+        const auto bytes = resources::makePlayerMarker({version, 0, 0, 0}, {});
+        return std::string(bytes.begin(), bytes.end());
+    };
+    const auto own = folder.makeFolder("user/QuorvelDefaults") / "Game.exe";
+    writeBytes(folder.makeFolder("program/QuorvelDefaults") / "Game.exe", player(2));
+    const ReadOnlyMount disc(program);
+    if (!disc.isMounted()) {
+        GTEST_SKIP() << disc.whyNot();
+    }
+    for (std::uint16_t version = 1; version <= 3; ++version) {
+        writeBytes(own, player(version));
+        shell::ResolveInstallPath(text(program), text(folder / "user"));
+        EXPECT_EQ(readBytes(own), player(std::max<std::uint16_t>(version, 2))) << version;
+    }
 }
 
 }  // namespace
