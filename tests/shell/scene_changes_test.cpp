@@ -185,6 +185,17 @@ TEST_F(SceneChanges, AFullDiskKeepsTheAuthorAndHisWork) {
     EXPECT_EQ(stored(1, 4, 2), 200);
 }
 
+TEST_F(SceneChanges, AStoreThatWasDeletedKeepsTheAuthorAndHisWork) {
+    open(ProjectBuilder().scenes(2).object(1, 4, 5, 100, 100));
+    carry({110, 110}, {210, 210});
+    std::filesystem::remove(files.storePath(1));
+    next();
+    EXPECT_EQ(boxes.texts(),
+              QStringList{QStringLiteral("An unexpected error has occured:\n53 / File not found")});
+    EXPECT_EQ(current(), 1);
+    EXPECT_EQ(slot(4).SlotInt(2), 200);
+}
+
 TEST_F(SceneChanges, AReadOnlyProjectIsToldOnceAndCanBeWalked) {
     files = ProjectBuilder().scenes(3).object(1, 4, 5, 100, 100).build(projects.path());
     const ReadOnlyMount disc(projects.path());
