@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTimer>
 
 #include "shell/scene_fixture.h"
 #include "support/gif_bytes.h"
@@ -118,6 +119,33 @@ TEST_F(SceneChanges, HalfOfTwoScenesIsNeverPainted) {
     QCoreApplication::processEvents();
     EXPECT_GE(image.count, 1);
     EXPECT_TRUE(main().isVisible());
+}
+
+TEST_F(SceneChanges, EventsRunBetweenTheSaveAndTheLoad) {
+    open(ProjectBuilder().scenes(2));
+    slot(1).SlotInt(36) = 77;
+    int scene = 0;
+    int written = 0;
+    QTimer::singleShot(0, &main(), [&] {
+        scene = current();
+        written = stored(1, 1, 36);
+    });
+    next();
+    EXPECT_EQ(scene, 1);
+    EXPECT_EQ(written, 77);
+}
+
+TEST_F(SceneChanges, TheCountIsOpenWhileASceneLoads) {
+    open(ProjectBuilder().scenes(2).object(2, 3, 5, 10, 10));
+    const auto count = [this] {
+        return control<QLabel>(main(), QStringLiteral("StatusBar2(1)")).text();
+    };
+    QString meanwhile;
+    QObject::connect(&main().view(), &canvas::SceneView::leaving, &main(),
+                     [&] { QTimer::singleShot(0, &main(), [&] { meanwhile = count(); }); });
+    next();
+    EXPECT_EQ(meanwhile, QStringLiteral("Objects: ..."));
+    EXPECT_EQ(count(), QStringLiteral("Objects: 1 / 20"));
 }
 
 TEST_F(SceneChanges, APictureThatIsGoneIsToldOverTheWholeScene) {
