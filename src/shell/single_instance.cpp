@@ -3,6 +3,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QLocalSocket>
+#include <QLockFile>
 
 namespace quorvel::shell {
 
@@ -18,6 +19,10 @@ SingleInstance::SingleInstance(const QString& name) : name_(name) {
 
 bool SingleInstance::claim() {
     constexpr int kPatienceMs = 1000;
+    // Of editors that start at the same moment each would find nobody there. Where the folder takes
+    // no such file the editor starts all the same.
+    QLockFile turn(QDir::temp().filePath(name_ + QStringLiteral(".lock")));
+    turn.tryLock(10 * kPatienceMs);
     QLocalSocket first;
     first.connectToServer(name_);
     if (first.waitForConnected(kPatienceMs)) {

@@ -4,6 +4,10 @@
 #include <string>
 #include <utility>
 
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
 #include "store/runtime_error.h"
 
 namespace quorvel::store {
@@ -39,6 +43,24 @@ ErrorNumber missing(const fs::path& path, std::error_code error) {
     std::error_code ignored;
     const bool hasFolder = !path.has_parent_path() || fs::exists(path.parent_path(), ignored);
     return number == ErrorNumber::fileNotFound && !hasFolder ? ErrorNumber::pathNotFound : number;
+}
+
+/// True when the open file is in no folder any more, so that what is written ends with this handle.
+bool isDeleted(std::FILE* file, const fs::path& path) {
+#ifdef _WIN32
+    (void)file;
+    (void)path;
+    return false;  // the system keeps files that are open
+#else
+    struct stat open {};
+    struct stat named {};
+    if (::fstat(fileno(file), &open) != 0 || open.st_nlink != 0) {
+        return false;
+    }
+    // Some file systems do not count names.
+    return ::stat(path.c_str(), &named) != 0 || named.st_dev != open.st_dev ||
+           named.st_ino != open.st_ino;
+#endif
 }
 
 }  // namespace
@@ -116,6 +138,9 @@ void FileHandle::writeAt(std::uintmax_t offset, std::span<const char> bytes) {
     seek(offset);
     if (!writable_) {
         throw RuntimeError(ErrorNumber::accessError, path_);
+    }
+    if (isDeleted(file_.get(), path_)) {
+        throw RuntimeError(ErrorNumber::fileNotFound, path_);
     }
     const std::uintmax_t before = size();
     const bool acrossTheEnd = offset < before && before - offset < bytes.size();

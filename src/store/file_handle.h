@@ -33,8 +33,8 @@ class FileHandle {
     /// end of the file. Never makes the file longer.
     std::size_t readAt(std::uintmax_t offset, std::span<char> into);
 
-    /// Writes all of `bytes` at `offset` in one call. When that fails the file keeps the length
-    /// that it had, and its last bytes too where the write would have gone across its end.
+    /// Writes all of `bytes` at `offset` in one call. When that fails, also because the file was
+    /// deleted, it keeps its length, and its last bytes where the write would have crossed its end.
     void writeAt(std::uintmax_t offset, std::span<const char> bytes);
 
     /// Closes the file and reports an error of it. Closing a closed handle does nothing.

@@ -132,6 +132,21 @@ TEST_F(CanvasWork, TheMenuOfAHotSpotJumpsToItsScene) {
     EXPECT_EQ(shell->project().CurrentScene, 2);
 }
 
+TEST_F(CanvasWork, BordersAreDrawnAnewWhenTheWindowComesForward) {
+    open(ProjectBuilder().object(1, 7, 5, 100, 120));
+    main().view().ToggleBorders(true);
+    QWidget& border = element("hilite(7)");
+    const QRect place = border.geometry();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    border.move(0, 0);
+    main().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&main()));
+    EXPECT_EQ(border.geometry(), place);
+}
+
 TEST_F(CanvasWork, SizesALinkAndRestoresTheLowerOneToItsOwnPlace) {
     open(ProjectBuilder());
     shell->actions().dragging().CurrentLink = 4;

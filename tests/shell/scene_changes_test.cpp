@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTimer>
 
 #include "shell/scene_fixture.h"
 #include "support/gif_bytes.h"
@@ -120,6 +121,33 @@ TEST_F(SceneChanges, HalfOfTwoScenesIsNeverPainted) {
     EXPECT_TRUE(main().isVisible());
 }
 
+TEST_F(SceneChanges, EventsRunBetweenTheSaveAndTheLoad) {
+    open(ProjectBuilder().scenes(2));
+    slot(1).SlotInt(36) = 77;
+    int scene = 0;
+    int written = 0;
+    QTimer::singleShot(0, &main(), [&] {
+        scene = current();
+        written = stored(1, 1, 36);
+    });
+    next();
+    EXPECT_EQ(scene, 1);
+    EXPECT_EQ(written, 77);
+}
+
+TEST_F(SceneChanges, TheCountIsOpenWhileASceneLoads) {
+    open(ProjectBuilder().scenes(2).object(2, 3, 5, 10, 10));
+    const auto count = [this] {
+        return control<QLabel>(main(), QStringLiteral("StatusBar2(1)")).text();
+    };
+    QString meanwhile;
+    QObject::connect(&main().view(), &canvas::SceneView::leaving, &main(),
+                     [&] { QTimer::singleShot(0, &main(), [&] { meanwhile = count(); }); });
+    next();
+    EXPECT_EQ(meanwhile, QStringLiteral("Objects: ..."));
+    EXPECT_EQ(count(), QStringLiteral("Objects: 1 / 20"));
+}
+
 TEST_F(SceneChanges, APictureThatIsGoneIsToldOverTheWholeScene) {
     open(ProjectBuilder().scenes(2).scene(2, "Yard", "gone.bmp").object(2, 3, 5, 10, 10));
     bool whole = false;
@@ -183,6 +211,17 @@ TEST_F(SceneChanges, AFullDiskKeepsTheAuthorAndHisWork) {
     next();
     EXPECT_EQ(current(), 2);
     EXPECT_EQ(stored(1, 4, 2), 200);
+}
+
+TEST_F(SceneChanges, AStoreThatWasDeletedKeepsTheAuthorAndHisWork) {
+    open(ProjectBuilder().scenes(2).object(1, 4, 5, 100, 100));
+    carry({110, 110}, {210, 210});
+    std::filesystem::remove(files.storePath(1));
+    next();
+    EXPECT_EQ(boxes.texts(),
+              QStringList{QStringLiteral("An unexpected error has occured:\n53 / File not found")});
+    EXPECT_EQ(current(), 1);
+    EXPECT_EQ(slot(4).SlotInt(2), 200);
 }
 
 TEST_F(SceneChanges, AReadOnlyProjectIsToldOnceAndCanBeWalked) {

@@ -1,7 +1,11 @@
 // The start of the process: the screen, the splash, one editor at a time, the main window's size.
 #include "shell/start.h"
 
+#include <atomic>
+#include <barrier>
 #include <gtest/gtest.h>
+#include <thread>
+#include <vector>
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -189,6 +193,28 @@ TEST_F(Start, AnEditorThatEndedDoesNotCount) {
     }
     shell::SingleInstance next(name);
     EXPECT_TRUE(next.claim());
+}
+
+TEST_F(Start, OfEditorsThatStartAtTheSameMomentOneIsTheFirst) {
+    for (int round = 0; round < 20; ++round) {
+        constexpr int kEditors = 4;
+        std::barrier together(kEditors);
+        std::barrier answered(kEditors);
+        std::atomic<int> firsts = 0;
+        std::vector<std::thread> editors;
+        for (int i = 0; i < kEditors; ++i) {
+            editors.emplace_back([&] {
+                shell::SingleInstance instance(name);
+                together.arrive_and_wait();
+                firsts += instance.claim() ? 1 : 0;
+                answered.arrive_and_wait();
+            });
+        }
+        for (std::thread& editor : editors) {
+            editor.join();
+        }
+        ASSERT_EQ(firsts, 1) << round;
+    }
 }
 
 TEST_F(Start, ASecondEditorShowsNothingAndActivatesTheFirst) {

@@ -175,6 +175,23 @@ TEST_F(FileHandleTest, TheSizeIsThatOfTheOpenFileWhateverHappensToItsName) {
     EXPECT_EQ(readBytes(folder_ / "g"), "0123456789x");
 }
 
+#ifdef __linux__
+TEST_F(FileHandleTest, AFileThatWasDeletedOrReplacedIsNotWritten) {
+    writeBytes(folder_ / "f", "0123456789");
+    writeBytes(folder_ / "g", "another");
+    FileHandle file = FileHandle::open(folder_ / "f");
+    fs::rename(folder_ / "g", folder_ / "f");
+    EXPECT_EQ(errorOf([&] { file.writeAt(0, std::string("x")); }), 53);
+    EXPECT_EQ(readBytes(folder_ / "f"), "another");
+    file = FileHandle::open(folder_ / "f");
+    fs::remove(folder_ / "f");
+    EXPECT_EQ(errorOf([&] { file.writeAt(0, std::string("x")); }), 53);
+    EXPECT_FALSE(fs::exists(folder_ / "f"));
+    std::string into(7, '#');
+    EXPECT_EQ(file.readAt(0, into), 7U) << "it can still be read";
+}
+#endif
+
 TEST_F(FileHandleTest, AClosedHandleCannotBeUsed) {
     FileHandle file = FileHandle::openOrCreate(folder_ / "f");
     file.close();
