@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLinearGradient>
 #include <QPaintEvent>
@@ -115,6 +116,14 @@ void PlayerWindow::tellFault() {
     scene_->hide();
     message_->setText(messageText(game_));
     message_->show();
+}
+
+void PlayerWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void PlayerWindow::paintEvent(QPaintEvent* event) {

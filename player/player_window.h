@@ -36,6 +36,8 @@ class PlayerWindow : public QWidget {
     [[nodiscard]] int currentScene() const { return currentScene_; }
 
   protected:
+    /// Escape leaves the game: on a small screen there is no frame to close it by.
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:

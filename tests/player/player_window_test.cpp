@@ -261,6 +261,14 @@ TEST_F(PlayerWindow, SettingsOfAnotherLengthAreThoseOfANewGame) {
     EXPECT_EQ(sceneWindow().pos(), QPoint(48, 56));
 }
 
+TEST_F(PlayerWindow, EscapeLeavesTheGame) {
+    buildAndPlay();
+    QTest::keyClick(window.get(), Qt::Key_A);
+    EXPECT_TRUE(window->isVisible());
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_FALSE(window->isVisible());
+}
+
 TEST_F(PlayerWindow, ASmallScreenIsFilled) {
     build();
     window = std::make_unique<player::PlayerWindow>(folder.path());
