@@ -1,5 +1,6 @@
 #include "shell/player_keeper.h"
 
+#include <system_error>
 #include <utility>
 
 #include "forms/events.h"
@@ -28,6 +29,13 @@ QString shownVersion(const VersionInfo& info) {
 }
 
 constexpr int kTipBeforeTestRun = 1;
+
+/// A project that came through an archive of another system has a player that nobody may run. Where
+/// that cannot be mended, the start fails and is told.
+void letItRun(const fs::path& player) {
+    std::error_code ignored;
+    fs::permissions(player, fs::perms::owner_exec, fs::perm_options::add, ignored);
+}
 
 }  // namespace
 
@@ -157,6 +165,7 @@ bool PlayerKeeper::startPlayer() {
             return !wine.isEmpty() && house_.programs.run(wine, {path}, folder);
         }
 #endif
+        letItRun(player);
         return house_.programs.run(path, {}, folder);
     } catch (const store::RuntimeError&) {
         return false;

@@ -295,6 +295,14 @@ TEST_F(TestRun, APlayerThatIsGoneIsToldInTheWordsOfItsCommand) {
     EXPECT_EQ(tips, (std::vector<int>{1, 1}));
 }
 
+TEST_F(TestRun, APlayerThatNobodyMayRunIsMended) {
+    begin();
+    fs::permissions(playerFile(), fs::perms::owner_read | fs::perms::owner_write);
+    action(QStringLiteral("runmen(0)")).trigger();
+    EXPECT_NE(fs::status(playerFile()).permissions() & fs::perms::owner_exec, fs::perms::none);
+    EXPECT_EQ(programs.started.size(), 1);
+}
+
 TEST_F(TestRun, APlayerThatDoesNotStartIsTold) {
     begin();
     programs.succeed = false;
