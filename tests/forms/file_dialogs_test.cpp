@@ -71,5 +71,38 @@ TEST(FileDialog, ReturnsNothingWhenItIsLeft) {
     EXPECT_EQ(chosen, QString());
 }
 
+TEST(FolderDialog, ReturnsTheFolderWithItsSeparator) {
+    const TempFolder folder;
+    const QString start = QString::fromStdString(store::textOf(folder.path()));
+    const QString game = QString::fromStdString(store::textOf(folder.makeFolder("A Game")));
+    forms::SystemFileDialogs dialogs;
+    const auto choose = [&](const std::function<void(QFileDialog&)>& author) {
+        QString chosen;
+        withWindow(
+            QStringLiteral("QFileDialog"),
+            [&] {
+                chosen = dialogs.chooseFolder(
+                    {.title = QStringLiteral("Choose a folder for your new project"),
+                     .filter = {},
+                     .folder = start,
+                     .fileName = QStringLiteral("-Choose an empty folder-")});
+            },
+            [&](QWidget& window) {
+                auto& dialog = dynamic_cast<QFileDialog&>(window);
+                EXPECT_EQ(dialog.windowTitle(),
+                          QStringLiteral("Choose a folder for your new project"));
+                EXPECT_EQ(dialog.directory().absolutePath(), start);
+                author(dialog);
+            });
+        return chosen;
+    };
+    EXPECT_EQ(choose([&](QFileDialog& dialog) {
+                  dialog.setDirectory(game);
+                  QMetaObject::invokeMethod(&dialog, "accept");
+              }),
+              game + QLatin1Char('/'));
+    EXPECT_EQ(choose([](QFileDialog& dialog) { dialog.reject(); }), QString());
+}
+
 }  // namespace
 }  // namespace quorvel::test
