@@ -136,6 +136,14 @@ void Shell::loadActions() {
 }
 
 void Shell::InitializeEditor() {
+    settings_.whenNotWritten = [this](const QString& file) {
+        surroundings_.boxes.show(
+            {.text =
+                 QStringLiteral("The settings of the editor could not be saved:\n\n%1\n\nPlease "
+                                "check whether this file and its folder can be written.")
+                     .arg(file),
+             .icon = Box::Icon::exclamation});
+    };
     settings_.GetEditorSettings();
     InstallPath = ResolveInstallPath(surroundings_.programFolder, surroundings_.userFolder);
     forms::letEventsRun();
