@@ -53,7 +53,17 @@ void EditorSettings::SaveEditorSettings() {
     for (std::size_t i = 0; i < RunProgram.size(); ++i) {
         WriteRegValue(numbered("Run-Menu/Program ", i), RunProgram[i]);
     }
+    sync();
+}
+
+void EditorSettings::sync() {
     values_.sync();
+    if (values_.status() != QSettings::NoError && !isRefused_) {
+        isRefused_ = true;
+        if (whenNotWritten) {
+            whenNotWritten(values_.fileName());
+        }
+    }
 }
 
 void EditorSettings::setFirstRunDefaults() {
@@ -70,7 +80,7 @@ void EditorSettings::RestoreQuickTips() {
     for (int tip = 1; tip <= kQuickTips; ++tip) {
         values_.remove(kNoTip + QString::number(tip));
     }
-    values_.sync();
+    sync();
 }
 
 void EditorSettings::rememberProject(const QString& path) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
 #include <QSettings>
 #include <QString>
@@ -36,6 +37,9 @@ class EditorSettings {
     std::array<QString, kRecent> RecentProj;    ///< full paths, newest first
     std::array<QString, kPrograms> RunProgram;  ///< command lines
 
+    /// Runs the first time that the values do not reach `file`.
+    std::function<void(const QString& file)> whenNotWritten;
+
     /// Reads all values; a missing one is empty or 0.
     void GetEditorSettings();
     /// Writes all values, the running version among them.
@@ -61,7 +65,10 @@ class EditorSettings {
     [[nodiscard]] bool hasProgram(int number) const;
 
   private:
+    void sync();
+
     QSettings values_;
+    bool isRefused_ = false;
 };
 
 }  // namespace quorvel::shell

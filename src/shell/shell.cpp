@@ -136,6 +136,14 @@ void Shell::loadActions() {
 }
 
 void Shell::InitializeEditor() {
+    settings_.whenNotWritten = [this](const QString& file) {
+        surroundings_.boxes.show(
+            {.text =
+                 QStringLiteral("The settings of the editor could not be saved:\n\n%1\n\nPlease "
+                                "check whether this file and its folder can be written.")
+                     .arg(file),
+             .icon = Box::Icon::exclamation});
+    };
     settings_.GetEditorSettings();
     InstallPath = ResolveInstallPath(surroundings_.programFolder, surroundings_.userFolder);
     forms::letEventsRun();
@@ -265,7 +273,7 @@ void Shell::tellOldSettings() {
 }
 
 bool Shell::CloseProject() {
-    if (keeper_->SaveScene() == canvas::SaveOutcome::failed &&
+    if (keeper_->SaveScene() == canvas::SaveOutcome::failed && !isUnattended_ &&
         surroundings_.boxes.show(
             {.text = QStringLiteral("The current scene could not be saved.\n\nDo you want to close "
                                     "the project anyway and lose the changes to this scene?"),
@@ -336,15 +344,15 @@ void Shell::ExitProgram() {
 }
 
 void Shell::endByRequest() {
-    // Nobody is there to answer: boxes are left as with Escape. An open cannot be cut off.
+    constexpr int kAgainMs = 100;
+    isUnattended_ = true;
+    QTimer::singleShot(kAgainMs, this, &Shell::endByRequest);
     if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        // Nobody is there to answer: boxes are left as with Escape, those of the end itself too.
         box->close();
+    } else if (!project_.ProjectLoading) {  // an open cannot be cut off
+        ExitProgram();
     }
-    if (project_.ProjectLoading) {
-        QTimer::singleShot(100, this, &Shell::endByRequest);
-        return;
-    }
-    ExitProgram();
 }
 
 void Shell::activate() {

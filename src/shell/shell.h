@@ -132,6 +132,7 @@ class Shell : public QObject {
     std::map<Command, std::function<void()>> answers_;
     int objectCount_ = 0;
     bool shuttingDown_ = false;
+    bool isUnattended_ = false;  ///< the system ends the editor, nobody answers any more
 };
 
 }  // namespace quorvel::shell

@@ -66,6 +66,23 @@ TEST_F(Settings, TheFirstRunWritesAllDefaults) {
     EXPECT_EQ(shell->settings().TipsAtStart, QStringLiteral("Yes"));
 }
 
+TEST_F(Settings, ThatCannotBeWrittenAreToldOnce) {
+    const auto file = home.makeFolder("TessaroonWorks") / "Quorvel.conf";
+    std::filesystem::create_directory(file);
+    const TestProject files = build("game");
+    start({text(files.projectPath())});
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_EQ(boxes.texts().front(),
+              QStringLiteral("The settings of the editor could not be saved:\n\n") + text(file) +
+                  QStringLiteral("\n\nPlease check whether this file and its folder can be "
+                                 "written."));
+    EXPECT_EQ(boxes.shown().front().icon, forms::Box::Icon::exclamation);
+    EXPECT_TRUE(shell->project().ProjectOpen);
+    EXPECT_EQ(shell->settings().WrongFolder, 3) << "the editor works all the same";
+    shell->settings().SaveEditorSettings();
+    EXPECT_EQ(boxes.shown().size(), 1U);
+}
+
 TEST_F(Settings, TheSecondStartTakesTheNormalPath) {
     start();
     leave();

@@ -72,7 +72,23 @@ TEST_F(OpenProject, LeavesABoxUnansweredWhenTheSystemEndsTheEditor) {
     QTimer::singleShot(50, [this] { shell->endByRequest(); });
     EXPECT_EQ(real.show({.text = QStringLiteral("?"), .buttons = forms::Box::Buttons::yesNo}),
               forms::Answer::no);
-    EXPECT_EQ(quits, 1);
+    EXPECT_TRUE(waitUntil([this] { return quits == 1; }));
+}
+
+TEST_F(OpenProject, IsClosedAsFarAsItGoesWhenTheSystemEndsTheEditor) {
+    const TestProject files = ProjectBuilder().securityCode(7).build(projects.path());
+    start({text(files.projectPath())});
+    std::filesystem::remove(files.storePath(1));
+    patchBytes(files.storePath(2), 110, std::string(2, '\0'));
+    forms::MessageBoxes real;
+    boxes.whileShown = [&real](const forms::Box& box) { real.show(box); };
+    shell->endByRequest();
+    EXPECT_TRUE(waitUntil([this] { return quits == 1; }));
+    EXPECT_EQ(boxes.texts().front(),
+              QStringLiteral("An unexpected error has occured:\n53 / File not found"));
+    EXPECT_FALSE(boxes.texts().join(u'|').contains(u'?')) << "nobody is there to be asked";
+    EXPECT_EQ(readInt(files.storePath(2), 110), 7) << "what can be written is";
+    boxes.whileShown = nullptr;
 }
 
 }  // namespace

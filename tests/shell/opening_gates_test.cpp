@@ -306,6 +306,16 @@ TEST_F(Gates, TheProgressWindowShowsEachStage) {
     EXPECT_EQ(seen, expected) << all;
 }
 
+TEST_F(Gates, TheMainWindowComesForwardWithTheProject) {
+    const TestProject files = ProjectBuilder().build(projects.path());
+    start();
+    main().showMinimized();
+    dialogs.choice = text(files.projectPath());
+    action(QStringLiteral("Filemen(2)")).trigger();
+    EXPECT_TRUE(shell->project().ProjectOpen);
+    EXPECT_FALSE(main().isMinimized());
+}
+
 TEST_F(Gates, TheProgressWindowCannotBeLeft) {
     const TestProject files = ProjectBuilder().build(projects.path());
     start();
