@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "forms/look.h"
+#include "forms/project_preview.h"
 #include "resources/player_file.h"
 #include "shell/shell.h"
 #include "store/creation.h"
@@ -67,6 +68,12 @@ double cpuSeconds() {
     return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
+/// The real preview without a sound device.
+quorvel::shell::PreviewParts preview(const quorvel::store::Project& project, QWidget* /*area*/) {
+    const quorvel::media::PreviewOptions options{.sink = "fakesink sync=true"};
+    return {std::make_unique<quorvel::forms::ProjectPreview>(project, options), nullptr};
+}
+
 int run(bool check) {
     const QTemporaryDir folder;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
@@ -81,6 +88,7 @@ int run(bool check) {
                                  .screenSize = [] { return QSize(1280, 800); },
                                  .random = [] { return 0.5; },
                                  .quit = [] {},
+                                 .makePreview = preview,
                                  .programFolder = QCoreApplication::applicationDirPath(),
                                  .userFolder = folder.path(),
                                  .arguments = {}});

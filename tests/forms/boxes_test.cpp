@@ -105,9 +105,9 @@ TEST(Boxes, EveryIconIsShown) {
         {Box::Icon::exclamation, QMessageBox::Warning},
         {Box::Icon::critical, QMessageBox::Critical},
     };
-    for (const auto& [wanted, shown] : icons) {
-        answerOf({.text = QStringLiteral("t"), .icon = wanted}, [&](QMessageBox& box) {
-            EXPECT_EQ(box.icon(), shown);
+    for (const auto& icon : icons) {
+        answerOf({.text = QStringLiteral("t"), .icon = icon.first}, [&](QMessageBox& box) {
+            EXPECT_EQ(box.icon(), icon.second);
             escape(box);
         });
     }

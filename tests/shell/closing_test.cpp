@@ -124,7 +124,9 @@ TEST_F(Closing, SavesTheSceneOnTheCanvas) {
 class Toggles : public Closing, public ::testing::WithParamInterface<std::tuple<int, int, int>> {};
 
 TEST_P(Toggles, AreAppliedAndWrittenAsTheyStand) {
-    const auto [borders, animations, locked] = GetParam();
+    const int borders = std::get<0>(GetParam());
+    const int animations = std::get<1>(GetParam());
+    const int locked = std::get<2>(GetParam());
     const TestProject files = full()
                                   .editProject([=](store::ProjectRecord& record) {
                                       record.ViewBorders = static_cast<std::int16_t>(borders);

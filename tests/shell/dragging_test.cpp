@@ -15,8 +15,6 @@ namespace quorvel::test {
 namespace {
 
 using canvas::Place;
-using forms::Answer;
-using forms::Box;
 using store::LinkSide;
 
 class DraggingTest : public CanvasAuthor {};

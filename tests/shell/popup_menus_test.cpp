@@ -12,7 +12,6 @@ namespace {
 
 using canvas::PopupMenu;
 using forms::Answer;
-using forms::Box;
 
 struct MenuText {
     PopupMenu menu;

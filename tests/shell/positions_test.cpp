@@ -10,10 +10,8 @@
 namespace quorvel::test {
 namespace {
 
-using canvas::Place;
 using forms::Answer;
 using forms::Box;
-using store::LinkSide;
 
 const QString kLost = QStringLiteral(
     "Object Index # %1 is out of the scene by more than 50%.\n\nIf transparent, it may be "

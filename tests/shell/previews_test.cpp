@@ -7,8 +7,6 @@
 namespace quorvel::test {
 namespace {
 
-using forms::Box;
-
 class Previews : public ShellFixture {
   protected:
     void startWithAProject() {
