@@ -9,6 +9,7 @@
 #include "shell/shell.h"
 #include "store/creation.h"
 #include "store/scene_store.h"
+#include "support/windows/recorded_preview.h"
 
 namespace {
 
@@ -81,6 +82,12 @@ int run(bool check) {
                                  .screenSize = [] { return QSize(1280, 800); },
                                  .random = [] { return 0.5; },
                                  .quit = [] {},
+                                 .makePreview =
+                                     [](const store::Project&, QWidget*) {
+                                         return quorvel::shell::PreviewParts{
+                                             std::make_unique<quorvel::test::RecordedPreview>(),
+                                             nullptr};
+                                     },
                                  .programFolder = QCoreApplication::applicationDirPath(),
                                  .userFolder = folder.path(),
                                  .arguments = {}});
