@@ -5,8 +5,11 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QTextBrowser>
 
 #include "forms/events.h"
 #include "forms/intake_boxes.h"
@@ -179,6 +182,27 @@ TEST_P(AllWindows, NewObject) {
 
 TEST_P(AllWindows, EditorOptions) {
     checkOpenedBy(QStringLiteral("options(1)"), QStringLiteral("EdOptions"));
+}
+
+TEST_P(AllWindows, QuickTips) {
+    forgetSettings();
+    start();
+    for (int tip = 1; tip <= shell::kQuickTips; ++tip) {
+        withWindow(
+            QStringLiteral("QuickTip"), [&] { shell->ShowQuickTip(tip); },
+            [&](QWidget& window) {
+                check(window, QStringLiteral("QuickTip-%1").arg(tip));
+                window.close();
+            });
+    }
+}
+
+TEST_P(AllWindows, TipOfTheDay) {
+    checkOpenedBy(QStringLiteral("helpmen(1)"), QStringLiteral("frmTip"));
+}
+
+TEST_P(AllWindows, About) {
+    checkOpenedBy(QStringLiteral("helpmen(9)"), QStringLiteral("frmAbout"));
 }
 
 TEST_P(AllWindows, CopyOrMove) {
