@@ -205,6 +205,27 @@ TEST_P(AllWindows, About) {
     checkOpenedBy(QStringLiteral("helpmen(9)"), QStringLiteral("frmAbout"));
 }
 
+TEST_P(AllWindows, Help) {
+    start();
+    for (const forms::HelpPage& page : forms::helpPages()) {
+        shell->ShowHelp(page.topic);
+        QWidget* window = visibleWindow(QStringLiteral("HelpWindow"));
+        ASSERT_NE(window, nullptr);
+        // Within a page the Tab key goes from link to link.
+        control<QLineEdit>(*window, QStringLiteral("Search")).setFocus();
+        const auto* wider =
+            control<QTextBrowser>(*window, QStringLiteral("Page")).horizontalScrollBar();
+        EXPECT_TRUE(wider->maximum() == 0 || qEnvironmentVariableIsSet("QUORVEL_DOUBLE_LETTERS"))
+            << page.file << " is wider than its window";
+        check(*window, QStringLiteral("Help-") + QString::fromLatin1(page.file).chopped(5));
+    }
+    QWidget* window = visibleWindow(QStringLiteral("HelpWindow"));
+    auto& search = control<QLineEdit>(*window, QStringLiteral("Search"));
+    search.setText(QStringLiteral("scene"));
+    search.setFocus();
+    check(*window, QStringLiteral("Help-search"));
+}
+
 TEST_P(AllWindows, CopyOrMove) {
     forms::IntakeBoxes questions(boxes);
     withWindow(
