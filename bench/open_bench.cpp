@@ -41,6 +41,7 @@ class NoPrograms : public quorvel::resources::Programs {
         return false;
     }
     QString find(const QString& /*name*/) override { return {}; }
+    bool openUrl(const QString& /*address*/) override { return false; }
 };
 
 void writeLargeProject(const QString& folder) {
@@ -89,6 +90,7 @@ int run(bool check) {
                                  .random = [] { return 0.5; },
                                  .quit = [] {},
                                  .makePreview = preview,
+                                 .machineValue = quorvel::shell::readMachineValue,
                                  .programFolder = QCoreApplication::applicationDirPath(),
                                  .userFolder = folder.path(),
                                  .arguments = {}});

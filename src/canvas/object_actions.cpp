@@ -218,7 +218,8 @@ void ObjectActions::ShowObjectProps(int type) {
 }
 
 void ObjectActions::showNewLink() {
-    newlink window(house_.scene, house_.boxes, nullptr, house_.view.window());
+    newlink window(house_.scene, house_.boxes,
+                   forms::helpOn(house_.guide, forms::HelpTopic::newlink), house_.view.window());
     if (window.exec() == QDialog::Accepted) {
         InsertObject(window.chosenType, window.chosenIndex);
         ShowObjectProps(static_cast<int>(window.chosenType));
@@ -253,7 +254,7 @@ void ObjectActions::showResize() {
         {.side = side,
          .place = [&view, side] { return view.linkPlace(side); },
          .setPlace = [&view, side](const Place& place) { view.setLinkPlace(side, place); }},
-        house_.boxes, nullptr, view.window());
+        house_.boxes, forms::helpOn(house_.guide, forms::HelpTopic::ResizeD), view.window());
     window.exec();
 }
 
@@ -283,6 +284,7 @@ void ObjectActions::ScnAlert_Click() {
 }
 
 void ObjectActions::RestoreObjs_Click() {
+    house_.guide.ShowQuickTip(forms::TipBefore::restorePositions);
     if (house_.boxes.show({.text = QStringLiteral("Restore the positions of all objects as they "
                                                   "were when this scene was loaded?"),
                            .title = QStringLiteral("Restore Object Positions"),

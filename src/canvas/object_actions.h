@@ -16,6 +16,7 @@
 #include "canvas/scene_keeper.h"
 #include "canvas/scene_view.h"
 #include "forms/boxes.h"
+#include "forms/guide.h"
 #include "store/objects.h"
 
 namespace quorvel::canvas {
@@ -30,6 +31,7 @@ class ObjectActions : public QObject {
         SceneView& view;
         SceneKeeper& keeper;
         forms::Boxes& boxes;
+        forms::Guide& guide;
     };
     explicit ObjectActions(const House& house);
 

@@ -1,8 +1,11 @@
 #include "resources/programs.h"
 
+#include <QDesktopServices>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QStringList>
+#include <QUrl>
 
 namespace quorvel::resources {
 
@@ -27,6 +30,10 @@ bool SystemPrograms::run(const QString& program, const QStringList& arguments,
 
 QString SystemPrograms::find(const QString& name) {
     return QStandardPaths::findExecutable(name);
+}
+
+bool SystemPrograms::openUrl(const QString& address) {
+    return QDesktopServices::openUrl(QUrl(address));
 }
 
 }  // namespace quorvel::resources

@@ -25,6 +25,9 @@ class Programs {
 
     /// The path of the program that the system knows as `name`; empty when it knows none.
     virtual QString find(const QString& name) = 0;
+
+    /// Hands a web address to the default browser and returns at once. False when there is none.
+    virtual bool openUrl(const QString& address) = 0;
 };
 
 /// Starts real programs.
@@ -33,6 +36,7 @@ class SystemPrograms : public Programs {
     bool start(const QString& commandLine) override;
     bool run(const QString& program, const QStringList& arguments, const QString& folder) override;
     QString find(const QString& name) override;
+    bool openUrl(const QString& address) override;
 };
 
 }  // namespace quorvel::resources

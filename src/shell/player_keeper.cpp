@@ -28,8 +28,6 @@ QString shownVersion(const VersionInfo& info) {
     return text.isEmpty() && info.version ? resources::versionText(*info.version) : text;
 }
 
-constexpr int kTipBeforeTestRun = 1;
-
 /// A project that came through an archive of another system has a player that nobody may run. Where
 /// that cannot be mended, the start fails and is told.
 void letItRun(const fs::path& player) {
@@ -140,7 +138,7 @@ void PlayerKeeper::RunPlayer(AskedBy asked) {
     // What failed has been told; the player then shows the scene as it was saved last.
     house_.keeper.SaveScene();
     forms::letEventsRun();
-    house_.showQuickTip(kTipBeforeTestRun);
+    house_.guide.ShowQuickTip(forms::TipBefore::testRun);
     if (!startPlayer()) {
         house_.boxes.tell(
             asked == AskedBy::menu

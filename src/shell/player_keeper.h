@@ -7,6 +7,7 @@
 
 #include "canvas/scene_keeper.h"
 #include "forms/boxes.h"
+#include "forms/guide.h"
 #include "resources/programs.h"
 #include "store/project.h"
 
@@ -24,7 +25,7 @@ class PlayerKeeper {
         forms::Boxes& boxes;
         resources::Programs& programs;
         std::function<QString()> installPath;  ///< with a separator at its end
-        std::function<void(int)> showQuickTip;
+        forms::Guide& guide;
     };
     explicit PlayerKeeper(House house);
 

@@ -70,6 +70,7 @@ void Shell::loadMain() {
     connect(keeper_.get(), &canvas::SceneKeeper::sceneLoading, &main_->status(),
             [this] { main_->status().setCount(QStringLiteral("Objects: ...")); });
     loadPreview();
+    loadGuide();
     loadActions();
     navigation_ = std::make_unique<Navigation>(
         Navigation::House{project_, *keeper_, surroundings_.boxes, main_->side(), main_->lists()});
@@ -114,18 +115,23 @@ void Shell::loadCreator() {
                                                                .main = *main_,
                                                                .random = surroundings_.random,
                                                                .installPath = installPath});
-    player_ = std::make_unique<PlayerKeeper>(
-        PlayerKeeper::House{.project = project_,
-                            .keeper = *keeper_,
-                            .boxes = surroundings_.boxes,
-                            .programs = surroundings_.programs,
-                            .installPath = installPath,
-                            .showQuickTip = [this](int number) { ShowQuickTip(number); }});
+    player_ = std::make_unique<PlayerKeeper>(PlayerKeeper::House{.project = project_,
+                                                                 .keeper = *keeper_,
+                                                                 .boxes = surroundings_.boxes,
+                                                                 .programs = surroundings_.programs,
+                                                                 .installPath = installPath,
+                                                                 .guide = *guide_});
+}
+
+void Shell::loadGuide() {
+    guide_ = std::make_unique<AuthorGuide>(AuthorGuide::House{settings_, surroundings_.boxes,
+                                                              surroundings_.programs, HelpFile,
+                                                              *main_, surroundings_.machineValue});
 }
 
 void Shell::loadActions() {
     actions_ = std::make_unique<canvas::ObjectActions>(canvas::ObjectActions::House{
-        project_, scene_, main_->view(), *keeper_, surroundings_.boxes});
+        project_, scene_, main_->view(), *keeper_, surroundings_.boxes, *guide_});
     const SidePanel& side = main_->side();
     connect(side.ObjAlert, &QPushButton::clicked, this, [this] { actions_->ObjAlert_Click(); });
     connect(side.ScnAlert, &QPushButton::clicked, this, [this] { actions_->ScnAlert_Click(); });
@@ -158,6 +164,9 @@ void Shell::InitializeEditor() {
     main_->showFor(surroundings_.screenSize());
     preview_->prepare();
     openCommandLine();
+    if (surroundings_.arguments.isEmpty() && settings_.TipsAtStart == QStringLiteral("Yes")) {
+        guide_->showTipAtStart();
+    }
 }
 
 void Shell::openCommandLine() {
@@ -239,6 +248,7 @@ void Shell::afterLoad() {
     }
     if (settings_.TipsAtStart == QStringLiteral("YesNow")) {
         settings_.TipsAtStart = QStringLiteral("Yes");
+        guide_->showTipAtStart();
     }
 }
 
@@ -329,6 +339,7 @@ void Shell::ExitProgram() {
             shuttingDown_ = false;
             return;
         }
+        guide_->closeWindows();
         main_->showShutdown();
         preview_->StopMovie();
         forms::letEventsRun();

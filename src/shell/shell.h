@@ -18,6 +18,7 @@
 #include "forms/preview.h"
 #include "forms/record_lists.h"
 #include "forms/traps.h"
+#include "shell/author_guide.h"
 #include "shell/commands.h"
 #include "shell/editor_settings.h"
 #include "shell/main_window.h"
@@ -70,6 +71,10 @@ class Shell : public QObject {
     void ToggleAnimations(bool on);
     void ToggleBorders(bool on);
 
+    /// Shows the help on `topic`; Quick Tip `number`, 1 to 21, unless it is turned off.
+    void ShowHelp(forms::HelpTopic topic) { guide_->ShowHelp(topic); }
+    void ShowQuickTip(int number) { guide_->ShowQuickTip(number); }
+
     // What is owned here, for those who are handed the shell.
     [[nodiscard]] store::Project& project() { return project_; }
     [[nodiscard]] store::Scene& scene() { return scene_; }
@@ -77,10 +82,8 @@ class Shell : public QObject {
     [[nodiscard]] Main& mainWindow() { return *main_; }
     [[nodiscard]] canvas::ObjectActions& actions() { return *actions_; }
     [[nodiscard]] forms::FileChoice& fileChoice() { return fileChoice_; }
+    [[nodiscard]] forms::Guide& guide() { return *guide_; }
     [[nodiscard]] forms::Preview& preview() { return *preview_; }
-
-    /// Shows Quick Tip `number`, 1 to 21.
-    std::function<void(int number)> ShowQuickTip = [](int) {};
 
     QString InstallPath;         ///< with a separator at its end
     QString HelpFile;            ///< the first page of the help
@@ -89,6 +92,7 @@ class Shell : public QObject {
   private:
     void loadMain();
     void loadPreview();
+    void loadGuide();
     void loadActions();
     void loadCreator();
     void stopPreviews();
@@ -106,6 +110,7 @@ class Shell : public QObject {
     void showNewProject();
     bool createProject(const QString& folder, const QString& name);
     void rememberOpenProject();
+    void helpMenu(const std::function<void()>& routine);
     void showSecurity();
     void showAddScene();
     void showEditorOptions();
@@ -123,6 +128,7 @@ class Shell : public QObject {
     forms::FileChoice fileChoice_;
     std::unique_ptr<Main> main_;
     std::unique_ptr<forms::Preview> preview_;
+    std::unique_ptr<AuthorGuide> guide_;
     std::unique_ptr<canvas::SceneKeeper> keeper_;
     std::unique_ptr<canvas::ObjectActions> actions_;
     std::unique_ptr<Navigation> navigation_;

@@ -12,10 +12,6 @@ namespace quorvel::shell {
 
 using forms::Box;
 
-namespace {
-constexpr int kTipAfterCreation = 7;
-}
-
 void Shell::answerCommands() {
     answers_ = {
         {Command::newProject, [this] { showNewProject(); }},
@@ -29,6 +25,11 @@ void Shell::answerCommands() {
         {Command::runPlayerByButton,
          [this] { player_->RunPlayer(PlayerKeeper::AskedBy::toolBar); }},
         {Command::editorOptions, [this] { showEditorOptions(); }},
+        {Command::tipOfTheDay, [this] { helpMenu([this] { guide_->showTipOfTheDay(); }); }},
+        {Command::helpContents,
+         [this] { helpMenu([this] { ShowHelp(forms::HelpTopic::FirstPage); }); }},
+        {Command::visitWebsite, [this] { helpMenu([this] { guide_->visitWebsite(); }); }},
+        {Command::about, [this] { helpMenu([this] { guide_->showAbout(); }); }},
         {Command::toggleAnimations, [this] { ToggleAnimations(!main_->view().animationsOn()); }},
         {Command::toggleBorders, [this] { ToggleBorders(!main_->view().bordersOn()); }},
     };
@@ -79,10 +80,10 @@ void Shell::showNewProject() {
          .startFolder = start.path(),
          .create = [this](const QString& folder,
                           const QString& name) { return createProject(folder, name); },
-         .help = nullptr},
+         .help = forms::helpOn(*guide_, forms::HelpTopic::NewProject)},
         main_.get());
     if (window.exec() == QDialog::Accepted) {
-        ShowQuickTip(kTipAfterCreation);
+        ShowQuickTip(forms::TipBefore::newProject);
     }
 }
 
@@ -99,19 +100,31 @@ bool Shell::createProject(const QString& folder, const QString& name) {
     return true;
 }
 
+void Shell::helpMenu(const std::function<void()>& routine) {
+    try {
+        routine();
+    } catch (const store::RuntimeError& error) {
+        surroundings_.boxes.tell(
+            QStringLiteral("Error %1 (%2)")
+                .arg(QString::number(error.number()), QString::fromStdString(error.description())));
+    }
+}
+
 void Shell::showSecurity() {
-    game::ProjSecurity window(project_, surroundings_.boxes, surroundings_.random, nullptr,
-                              main_.get());
+    ShowQuickTip(forms::TipBefore::projectSecurity);
+    game::ProjSecurity window(project_, surroundings_.boxes, surroundings_.random,
+                              forms::helpOn(*guide_, forms::HelpTopic::ProjSecurity), main_.get());
     window.exec();
 }
 
 void Shell::showAddScene() {
-    canvas::NewScenefrm window(*keeper_, nullptr, main_.get());
+    canvas::NewScenefrm window(*keeper_, forms::helpOn(*guide_, forms::HelpTopic::NewScenefrm),
+                               main_.get());
     window.exec();
 }
 
 void Shell::showEditorOptions() {
-    EdOptions window(settings_, nullptr, main_.get());
+    EdOptions window(settings_, forms::helpOn(*guide_, forms::HelpTopic::EdOptions), main_.get());
     window.exec();
 }
 

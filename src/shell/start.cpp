@@ -60,6 +60,7 @@ int runEditor(int argc, char** argv) {
                  .random = [] { return QRandomGenerator::global()->generateDouble(); },
                  .quit = [] { QCoreApplication::quit(); },
                  .makePreview = makePreview,
+                 .machineValue = readMachineValue,
                  .programFolder = QCoreApplication::applicationDirPath(),
                  .userFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
                  .arguments = QCoreApplication::arguments().mid(1)});

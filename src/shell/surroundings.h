@@ -12,6 +12,7 @@
 #include "forms/file_dialogs.h"
 #include "forms/preview.h"
 #include "resources/programs.h"
+#include "shell/about_box.h"
 #include "store/project.h"
 
 namespace quorvel::shell {
@@ -32,9 +33,10 @@ struct Surroundings {
     std::function<void()> quit;         ///< ends the event loop
     /// Makes the preview of a project, with its movies in the middle of a widget.
     std::function<PreviewParts(const store::Project&, QWidget* movieArea)> makePreview;
-    QString programFolder;  ///< folder of the running program
-    QString userFolder;     ///< per-user data folder, made at need
-    QStringList arguments;  ///< project files of the command line
+    MachineValue machineValue;  ///< reads the registry of the machine
+    QString programFolder;      ///< folder of the running program
+    QString userFolder;         ///< per-user data folder, made at need
+    QStringList arguments;      ///< project files of the command line
 };
 
 }  // namespace quorvel::shell

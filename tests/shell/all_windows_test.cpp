@@ -5,8 +5,11 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QTextBrowser>
 
 #include "forms/events.h"
 #include "forms/intake_boxes.h"
@@ -179,6 +182,48 @@ TEST_P(AllWindows, NewObject) {
 
 TEST_P(AllWindows, EditorOptions) {
     checkOpenedBy(QStringLiteral("options(1)"), QStringLiteral("EdOptions"));
+}
+
+TEST_P(AllWindows, QuickTips) {
+    forgetSettings();
+    start();
+    for (int tip = 1; tip <= shell::kQuickTips; ++tip) {
+        withWindow(
+            QStringLiteral("QuickTip"), [&] { shell->ShowQuickTip(tip); },
+            [&](QWidget& window) {
+                check(window, QStringLiteral("QuickTip-%1").arg(tip));
+                window.close();
+            });
+    }
+}
+
+TEST_P(AllWindows, TipOfTheDay) {
+    checkOpenedBy(QStringLiteral("helpmen(1)"), QStringLiteral("frmTip"));
+}
+
+TEST_P(AllWindows, About) {
+    checkOpenedBy(QStringLiteral("helpmen(9)"), QStringLiteral("frmAbout"));
+}
+
+TEST_P(AllWindows, Help) {
+    start();
+    for (const forms::HelpPage& page : forms::helpPages()) {
+        shell->ShowHelp(page.topic);
+        QWidget* window = visibleWindow(QStringLiteral("HelpWindow"));
+        ASSERT_NE(window, nullptr);
+        // Within a page the Tab key goes from link to link.
+        control<QLineEdit>(*window, QStringLiteral("Search")).setFocus();
+        const auto* wider =
+            control<QTextBrowser>(*window, QStringLiteral("Page")).horizontalScrollBar();
+        EXPECT_TRUE(wider->maximum() == 0 || qEnvironmentVariableIsSet("QUORVEL_DOUBLE_LETTERS"))
+            << page.file << " is wider than its window";
+        check(*window, QStringLiteral("Help-") + QString::fromLatin1(page.file).chopped(5));
+    }
+    QWidget* window = visibleWindow(QStringLiteral("HelpWindow"));
+    auto& search = control<QLineEdit>(*window, QStringLiteral("Search"));
+    search.setText(QStringLiteral("scene"));
+    search.setFocus();
+    check(*window, QStringLiteral("Help-search"));
 }
 
 TEST_P(AllWindows, CopyOrMove) {

@@ -210,13 +210,15 @@ TEST_F(Commands, TheToolBarHasThirtyThreePositions) {
 TEST_F(Commands, WithoutAProjectOnlyWhatNeedsNoneCanBeUsed) {
     start();
     EXPECT_EQ(enabledEntries(), (std::set<std::string>{"Filemen(1)", "Filemen(2)", "Filemen(14)",
-                                                       "options(1)", "Toolbar1(1)"}));
+                                                       "options(1)", "helpmen(1)", "helpmen(3)",
+                                                       "helpmen(5)", "helpmen(9)", "Toolbar1(1)"}));
 }
 
 const std::set<std::string> kEnabledWithAProject = {
     "Filemen(1)",  "Filemen(2)",  "Filemen(3)",   "Filemen(9)",   "Filemen(14)",  "projmen(1)",
     "projmen(12)", "scnmen(3)",   "runmen(0)",    "Toolbar1(1)",  "Toolbar1(2)",  "Toolbar1(5)",
-    "Toolbar1(6)", "Toolbar1(7)", "Toolbar1(10)", "Toolbar1(23)", "Toolbar1(25)", "options(1)"};
+    "Toolbar1(6)", "Toolbar1(7)", "Toolbar1(10)", "Toolbar1(23)", "Toolbar1(25)", "options(1)",
+    "helpmen(1)",  "helpmen(3)",  "helpmen(5)",   "helpmen(9)"};
 
 TEST_F(Commands, AProjectEnablesItsEntriesAndClosingTakesThemBack) {
     const TestProject files = ProjectBuilder().build(projects.path());
@@ -226,7 +228,8 @@ TEST_F(Commands, AProjectEnablesItsEntriesAndClosingTakesThemBack) {
     EXPECT_FALSE(shell->project().ProjectOpen);
     EXPECT_EQ(enabledEntries(),
               (std::set<std::string>{"Filemen(1)", "Filemen(2)", "Filemen(9)", "Filemen(14)",
-                                     "options(1)", "Toolbar1(1)"}));
+                                     "options(1)", "helpmen(1)", "helpmen(3)", "helpmen(5)",
+                                     "helpmen(9)", "Toolbar1(1)"}));
 }
 
 TEST_F(Commands, TwentyObjectsLeaveNoRoomForAnother) {

@@ -207,9 +207,11 @@ TEST_F(EditorOptions, TheWindowCanBeOpenedAgainAfterEachWayOut) {
 TEST_F(EditorOptions, HelpIsDisabledWithoutHelp) {
     start();
     use([](QWidget& window) {
-        EXPECT_FALSE(button(window, kHelp).isEnabled());
+        EXPECT_TRUE(button(window, kHelp).isEnabled());
         window.close();
     });
+    const shell::EdOptions without(shell->settings(), nullptr, nullptr);
+    EXPECT_FALSE(button(without, kHelp).isEnabled());
     int helped = 0;
     const shell::EdOptions window(
         shell->settings(), [&] { ++helped; }, nullptr);

@@ -12,6 +12,7 @@ namespace {
 
 class Settings : public ShellFixture {
   protected:
+    Settings() { forgetSettings(); }
     /// What stands in the store of settings now, under its own names.
     static std::map<std::string, std::string> stored() {
         const QSettings values(QStringLiteral("TessaroonWorks"), QStringLiteral("Quorvel"));

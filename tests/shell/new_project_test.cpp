@@ -10,6 +10,7 @@
 #include "shell/scene_fixture.h"
 #include "store/security.h"
 #include "support/mounts.h"
+#include "support/windows/tip_reader.h"
 #include "support/windows/window_checks.h"
 
 namespace quorvel::test {
@@ -29,7 +30,7 @@ class NewProject : public SceneFixture {
     void begin() {
         start();
         shell->InstallPath = text(install.path()) + QLatin1Char('/');
-        shell->ShowQuickTip = [this](int number) { tips.push_back(number); };
+        reader = std::make_unique<TipReader>(*shell);
     }
     /// Opens the window and lets the author use it. What the author leaves open is closed.
     void withNewProject(const std::function<void(QWidget&)>& author) {
@@ -80,7 +81,7 @@ class NewProject : public SceneFixture {
         EXPECT_EQ(control<QAction>(main(), QStringLiteral("projfolder")).text(),
                   QStringLiteral("(No Project Loaded)"));
         EXPECT_FALSE(action(QStringLiteral("runmen(0)")).isEnabled());
-        EXPECT_EQ(tips, std::vector<int>());
+        EXPECT_EQ(reader->tips, std::vector<int>());
     }
     QString step() {
         EXPECT_EQ(boxes.shown().size(), 1U);
@@ -91,7 +92,7 @@ class NewProject : public SceneFixture {
     }
 
     TempFolder install;
-    std::vector<int> tips;
+    std::unique_ptr<TipReader> reader;
 };
 
 TEST_F(NewProject, TheWindowSaysWhatToDo) {
@@ -205,7 +206,7 @@ TEST_F(NewProject, TheProjectIsOpenAsEveryOther) {
     }
     EXPECT_EQ(shell->settings().RecentProj[0], text(projects / "Project.qvl"));
     EXPECT_TRUE(action(QStringLiteral("Filemen(9)")).isEnabled());
-    EXPECT_EQ(tips, std::vector<int>{7});
+    EXPECT_EQ(reader->tips, std::vector<int>{7});
 }
 
 TEST_F(NewProject, ItClosesAndOpensAgain) {

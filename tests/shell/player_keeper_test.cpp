@@ -5,6 +5,7 @@
 #include "shell/scene_fixture.h"
 #include "support/mounts.h"
 #include "support/pe_bytes.h"
+#include "support/windows/tip_reader.h"
 
 namespace quorvel::test {
 namespace {
@@ -251,13 +252,13 @@ class TestRun : public Players {
         makeProject();
         writeBytes(playerFile(), bytes);
         ASSERT_TRUE(openIt());
-        shell->ShowQuickTip = [this](int number) {
-            tips.push_back(number);
+        reader = std::make_unique<TipReader>(*shell);
+        reader->whileRead = [this] {
             startedBefore = programs.started;
             savedName = readBytes(files.storePath(1), 0, 15);
         };
     }
-    std::vector<int> tips;
+    std::unique_ptr<TipReader> reader;
     QStringList startedBefore;
     std::string savedName;
 };
@@ -269,10 +270,10 @@ TEST_F(TestRun, SavesTheSceneShowsItsTipAndStartsThePlayer) {
             begin();
         }
         shell->scene().header(store::HeaderString::SceneName) = entry;
-        tips.clear();
+        reader->tips.clear();
         programs.started.clear();
         action(QString::fromLatin1(entry)).trigger();
-        EXPECT_EQ(tips, std::vector<int>{1});
+        EXPECT_EQ(reader->tips, std::vector<int>{1});
         EXPECT_EQ(savedName.substr(0, 9), std::string(entry).substr(0, 9)) << "saved before";
         EXPECT_EQ(startedBefore, QStringList()) << "the tip comes before the game";
         EXPECT_EQ(programs.started, QStringList{text(playerFile())});
@@ -292,7 +293,7 @@ TEST_F(TestRun, APlayerThatIsGoneIsToldInTheWordsOfItsCommand) {
             QStringLiteral("Could not run the Player.  Please check the filename and try again."),
             QStringLiteral("Could not run the Player.  Please check the filename in "
                            "'General Game Settings' and try again.")}));
-    EXPECT_EQ(tips, (std::vector<int>{1, 1}));
+    EXPECT_EQ(reader->tips, (std::vector<int>{1, 1}));
 }
 
 TEST_F(TestRun, APlayerThatNobodyMayRunIsMended) {

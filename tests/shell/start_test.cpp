@@ -234,6 +234,7 @@ TEST_F(Start, ASecondEditorShowsNothingAndActivatesTheFirst) {
                         .random = [] { return 0.5; },
                         .quit = [] {},
                         .makePreview = {},
+                        .machineValue = {},
                         .programFolder = QCoreApplication::applicationDirPath(),
                         .userFolder = text(home.path() / "data"),
                         .arguments = {}});

@@ -67,6 +67,10 @@ class PlayedPrograms : public resources::Programs {
         started << commandLine;
         return succeed;
     }
+    bool openUrl(const QString& address) override {
+        visited << address;
+        return succeed;
+    }
     bool run(const QString& program, const QStringList& arguments, const QString& folder) override {
         started << (QStringList(program) + arguments).join(QLatin1Char('|'));
         folders << folder;
@@ -75,6 +79,7 @@ class PlayedPrograms : public resources::Programs {
     QString find(const QString& name) override { return installed.value(name); }
     bool succeed = true;
     QStringList started;  ///< command lines; of `run` program and arguments with "|" between
+    QStringList visited;  ///< addresses of the web
     QStringList folders;  ///< of `run`
     QMap<QString, QString> installed;  ///< paths of programs by their names
     /// Answers `run` instead of `succeed`, for tests that start the real thing.

@@ -9,6 +9,16 @@ namespace quorvel::test {
 
 ShellFixture::ShellFixture() {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, text(home.path()));
+    QSettings values(QStringLiteral("TessaroonWorks"), QStringLiteral("Quorvel"));
+    values.setValue(QStringLiteral("Default Folder"), QStringLiteral("1"));
+    values.setValue(QStringLiteral("Wrong Folder"), QStringLiteral("3"));
+    values.setValue(QStringLiteral("TOTD"), QStringLiteral("No"));
+    values.setValue(QStringLiteral("LastTip"), QStringLiteral("0"));
+    values.setValue(shell::kNoTipsAtAll, QStringLiteral("1"));
+}
+
+void ShellFixture::forgetSettings() {
+    QSettings(QStringLiteral("TessaroonWorks"), QStringLiteral("Quorvel")).clear();
 }
 
 shell::Surroundings ShellFixture::surroundings(const QStringList& arguments, QSize screen) {
@@ -24,6 +34,10 @@ shell::Surroundings ShellFixture::surroundings(const QStringList& arguments, QSi
                 auto made = std::make_unique<RecordedPreview>();
                 preview = made.get();
                 return shell::PreviewParts{std::move(made), nullptr};
+            },
+        .machineValue =
+            [this](const QString& key, const QString& name) {
+                return machineValues.value(key + QLatin1Char('\\') + name);
             },
         .programFolder = QCoreApplication::applicationDirPath(),
         .userFolder = text(home.path() / "data"),

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include <QAction>
+#include <QMap>
 
 #include "shell/shell.h"
 #include "support/file_bytes.h"
@@ -33,6 +34,10 @@ class ShellFixture : public ::testing::Test {
     [[nodiscard]] shell::Main& main() { return shell->mainWindow(); }
     [[nodiscard]] QAction& action(const QString& name) { return control<QAction>(main(), name); }
 
+    /// An editor that never ran. Without this the author has turned off all tips, so that none
+    /// stands in the way of a test.
+    static void forgetSettings();
+
     static QString text(const std::filesystem::path& path);
 
     TempFolder home;      ///< settings and user data of the played author
@@ -40,6 +45,7 @@ class ShellFixture : public ::testing::Test {
     PlayedBoxes boxes;
     PlayedDialogs dialogs;
     PlayedPrograms programs;
+    QMap<QString, QString> machineValues;  ///< by key, backslash and name
     double nextRandom = 0.5;
     int quits = 0;
     /// What the editor previews; it belongs to the shell.

@@ -1,0 +1,260 @@
+// The pages that are delivered: each exists, all links and pictures lead somewhere, no Help button
+// leads nowhere, and the search finds what an author asks for.
+#include "shell/help_pages.h"
+
+#include <gtest/gtest.h>
+#include <set>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTextBrowser>
+#include <QTimer>
+
+#include "support/windows/shell_fixture.h"
+
+namespace quorvel::test {
+namespace {
+
+using forms::HelpPage;
+
+QDir pagesOfTheSource() {
+    return QDir(qEnvironmentVariable("QUORVEL_SOURCE_DIR") + QStringLiteral("/help"));
+}
+
+QString read(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return QString::fromUtf8(file.readAll());
+}
+
+QString htmlOf(const HelpPage& page) {
+    return read(pagesOfTheSource().filePath(QString::fromLatin1(page.file)));
+}
+
+/// What `pattern` catches in `text`, blanks simplified.
+QStringList caught(const QString& text, const char* pattern) {
+    QStringList all;
+    const QRegularExpression expression(QString::fromLatin1(pattern),
+                                        QRegularExpression::DotMatchesEverythingOption);
+    auto matches = expression.globalMatch(text);
+    while (matches.hasNext()) {
+        all << matches.next().captured(1).simplified();
+    }
+    return all;
+}
+
+QStringList linksOf(const QString& html) {
+    return caught(html, "<a\\s+href=\"([^\"]*)\"");
+}
+
+TEST(HelpPages, EachTopicHasItsPageWithItsTitle) {
+    for (const HelpPage& page : forms::helpPages()) {
+        SCOPED_TRACE(page.file);
+        const QString html = htmlOf(page);
+        const QStringList title{QString::fromLatin1(page.title)};
+        EXPECT_EQ(caught(html, "<title>(.*?)</title>"), title);
+        EXPECT_EQ(caught(html, "<h1>(.*?)</h1>"), title);
+        EXPECT_GT(html.size(), 700) << "a page says something";
+        EXPECT_TRUE(html.endsWith(QStringLiteral("</html>\n")));
+    }
+}
+
+TEST(HelpPages, EachFileBelongsToATopic) {
+    for (const QString& file : pagesOfTheSource().entryList({QStringLiteral("*.html")})) {
+        EXPECT_NE(forms::helpPage(file), nullptr) << file.toStdString();
+    }
+}
+
+TEST(HelpPages, EachLinkLeadsToAPage) {
+    int links = 0;
+    for (const HelpPage& page : forms::helpPages()) {
+        for (const QString& link : linksOf(htmlOf(page))) {
+            ++links;
+            EXPECT_NE(forms::helpPage(link), nullptr) << page.file << ": " << link.toStdString();
+            EXPECT_NE(link, QString::fromLatin1(page.file)) << "a page links itself";
+        }
+    }
+    EXPECT_GT(links, 40);
+}
+
+TEST(HelpPages, EachPageIsReachedByLinksFromTheFirst) {
+    std::set<QString> met;
+    QStringList open{QStringLiteral("index.html")};
+    while (!open.isEmpty()) {
+        const QString file = open.takeLast();
+        if (met.insert(file).second) {
+            open << linksOf(read(pagesOfTheSource().filePath(file)));
+        }
+    }
+    for (const HelpPage& page : forms::helpPages()) {
+        EXPECT_TRUE(met.contains(QString::fromLatin1(page.file))) << page.file;
+    }
+}
+
+TEST(HelpPages, EachPictureIsThereFitsAndIsUsed) {
+    constexpr int kWidest = 480;
+    std::set<QString> used;
+    for (const HelpPage& page : forms::helpPages()) {
+        const QString html = htmlOf(page);
+        const QStringList pictures = caught(html, "<img\\s+src=\"([^\"]*)\"\\s+alt=\"[^\"]+\">");
+        EXPECT_EQ(pictures.size(), html.count(QStringLiteral("<img")))
+            << page.file << ": a picture without a text for those who cannot see it";
+        for (const QString& picture : pictures) {
+            const QImage image(pagesOfTheSource().filePath(picture));
+            EXPECT_FALSE(image.isNull()) << page.file << ": " << picture.toStdString();
+            EXPECT_LE(image.width(), kWidest) << picture.toStdString();
+            used.insert(picture);
+        }
+    }
+    EXPECT_GE(used.size(), 8U);
+    const QDir folder(pagesOfTheSource().filePath(QStringLiteral("pictures")));
+    for (const QString& file : folder.entryList(QDir::Files)) {
+        EXPECT_TRUE(used.contains(QStringLiteral("pictures/") + file)) << file.toStdString();
+    }
+}
+
+TEST(HelpPages, AllThatIsWrittenIsDeliveredBesideTheProgram) {
+    const QDir delivered(QCoreApplication::applicationDirPath() + QStringLiteral("/help"));
+    for (const QString& folder : {QString(), QStringLiteral("pictures/")}) {
+        for (const QString& file :
+             QDir(pagesOfTheSource().filePath(folder)).entryList(QDir::Files)) {
+            const QString name = folder + file;
+            QFile ours(pagesOfTheSource().filePath(name));
+            QFile theirs(delivered.filePath(name));
+            ASSERT_TRUE(ours.open(QIODevice::ReadOnly));
+            ASSERT_TRUE(theirs.open(QIODevice::ReadOnly)) << name.toStdString();
+            EXPECT_TRUE(ours.readAll() == theirs.readAll()) << name.toStdString();
+        }
+    }
+}
+
+TEST(HelpPages, TheSearchFindsWhatAnAuthorAsksFor) {
+    shell::HelpPages pages(pagesOfTheSource().path() + QLatin1Char('/'));
+    const auto first = [&pages](const char* question) {
+        const auto found = pages.search(QString::fromLatin1(question));
+        return found.empty() ? std::string("nothing") : std::string(found.front().page->file);
+    };
+    EXPECT_EQ(first("project security"), "project-security.html");
+    EXPECT_EQ(first("quickspot"), "hotspot.html");
+    EXPECT_EQ(first("overlap"), "canvas.html");
+    EXPECT_EQ(first("wine"), "test-run.html");
+    EXPECT_EQ(first("tip of the day"), "tips.html");
+    EXPECT_EQ(first("incoming"), "files.html");
+    EXPECT_EQ(first("a word that is nowhere xyzzy"), "nothing");
+    EXPECT_EQ(pages.search(QStringLiteral("the")).size(), forms::helpPages().size());
+}
+
+// The Help buttons
+
+struct WindowWithHelp {
+    const char* name;
+    const char* entry;  ///< of a menu; empty where `open` shows it
+    const char* page;
+    std::function<void(shell::Shell&)> open = nullptr;
+};
+
+const std::vector<WindowWithHelp>& windowsWithHelp() {
+    static const std::vector<WindowWithHelp> all = {
+        {"EdOptions", "options(1)", "editor-options.html"},
+        {"NewProject", "Filemen(1)", "new-project.html"},
+        {"NewScenefrm", "projmen(1)", "add-scene.html"},
+        {"ProjSecurity", "projmen(12)", "project-security.html"},
+        {"newlink", "scnmen(3)", "insert-object.html"},
+        {"ResizeD", "", "resize-link.html",
+         [](shell::Shell& shell) {
+             shell.actions().dragging().CurrentLink = 2;
+             shell.actions().showResize();
+         }},
+    };
+    return all;
+}
+
+class HelpButtons : public ShellFixture {
+  protected:
+    void showWindow(const WindowWithHelp& one, const std::function<void(QWidget&)>& author) {
+        withWindow(
+            QString::fromLatin1(one.name),
+            [&] {
+                if (one.open) {
+                    one.open(*shell);
+                } else {
+                    action(QString::fromLatin1(one.entry)).trigger();
+                }
+            },
+            author);
+    }
+    static QList<QPushButton*> helpButtons(const QWidget& window) {
+        QList<QPushButton*> found;
+        for (auto* button : window.findChildren<QPushButton*>()) {
+            if (button->text() == QStringLiteral("Help")) {
+                found << button;
+            }
+        }
+        return found;
+    }
+};
+
+TEST_F(HelpButtons, NoneLeadsNowhere) {
+    const TestProject game = ProjectBuilder().scenes(2).build(projects.makeFolder("game"));
+    start({text(game.projectPath())});
+    for (const WindowWithHelp& one : windowsWithHelp()) {
+        SCOPED_TRACE(one.name);
+        showWindow(one, [&](QWidget& window) {
+            const auto buttons = helpButtons(window);
+            ASSERT_EQ(buttons.size(), 1);
+            EXPECT_TRUE(buttons.front()->isEnabled());
+            buttons.front()->click();
+            QWidget* help = visibleWindow(QStringLiteral("HelpWindow"));
+            ASSERT_NE(help, nullptr);
+            const auto& page = control<QTextBrowser>(*help, QStringLiteral("Page"));
+            EXPECT_EQ(page.source().fileName(), QString::fromLatin1(one.page));
+            EXPECT_TRUE(window.isVisible());
+            window.close();
+        });
+    }
+    EXPECT_TRUE(boxes.shown().empty()) << boxes.texts().join(QLatin1Char('|')).toStdString();
+}
+
+TEST_F(HelpButtons, EveryWindowOfTheMenusIsLookedAt) {
+    // Whatever entry of the menus opens a window with a Help button stands in the table above.
+    const TestProject game = ProjectBuilder().scenes(2).build(projects.makeFolder("game"));
+    start({text(game.projectPath())});
+    std::set<QString> known;
+    for (const WindowWithHelp& one : windowsWithHelp()) {
+        known.insert(QString::fromLatin1(one.name));
+    }
+    std::set<QString> seen;
+    for (QAction* entry : main().findChildren<QAction*>()) {
+        const QString name = entry->objectName();
+        const bool opens = name.startsWith(QStringLiteral("projmen(")) ||
+                           name.startsWith(QStringLiteral("scnmen(")) ||
+                           name.startsWith(QStringLiteral("options(")) ||
+                           name.startsWith(QStringLiteral("helpmen(")) ||
+                           name == QStringLiteral("Filemen(1)");
+        if (!opens || !entry->isEnabled() || entry->isSeparator()) {
+            continue;
+        }
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            if (QWidget* window = QApplication::activeModalWidget()) {
+                if (!helpButtons(*window).isEmpty()) {
+                    seen.insert(window->objectName());
+                }
+                window->close();
+            }
+        });
+        look.start(5);
+        entry->trigger();
+    }
+    EXPECT_GE(seen.size(), 4U);
+    for (const QString& name : seen) {
+        EXPECT_TRUE(known.contains(name)) << name.toStdString();
+    }
+}
+
+}  // namespace
+}  // namespace quorvel::test
