@@ -25,6 +25,7 @@
 #include "shell/player_keeper.h"
 #include "shell/project_creator.h"
 #include "shell/project_loader.h"
+#include "shell/scene_editors.h"
 #include "shell/surroundings.h"
 #include "store/project.h"
 #include "store/scene.h"
@@ -82,6 +83,9 @@ class Shell : public QObject {
     /// Shows Quick Tip `number`, 1 to 21.
     std::function<void(int number)> ShowQuickTip = [](int) {};
 
+    /// What the windows over the scene show beside themselves; it may be set at any time.
+    SceneEditors::Guide editorGuide;
+
     QString InstallPath;         ///< with a separator at its end
     QString HelpFile;            ///< the first page of the help
     bool EditorRunning = false;  ///< from the end of the start to the shutdown
@@ -125,6 +129,7 @@ class Shell : public QObject {
     std::unique_ptr<forms::Preview> preview_;
     std::unique_ptr<canvas::SceneKeeper> keeper_;
     std::unique_ptr<canvas::ObjectActions> actions_;
+    std::unique_ptr<SceneEditors> editors_;
     std::unique_ptr<Navigation> navigation_;
     std::unique_ptr<ProjectLoader> loader_;
     std::unique_ptr<ProjectCreator> creator_;

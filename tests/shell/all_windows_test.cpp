@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QProcess>
 #include <QPushButton>
+#include <QTabBar>
 
 #include "forms/events.h"
 #include "forms/intake_boxes.h"
@@ -34,7 +35,19 @@ class AllWindows : public ShellFixture, public ::testing::WithParamInterface<Loo
     ~AllWindows() override { QApplication::setFont(letters); }
     const QFont letters = QApplication::font();
 
+    /// Checks a window on each of its pages.
     void check(QWidget& window, const QString& name) {
+        auto* pages = window.findChild<QTabBar*>(QStringLiteral("Pages"));
+        if (pages == nullptr) {
+            checkPage(window, name);
+            return;
+        }
+        for (int page = 0; page < pages->count(); ++page) {
+            pages->setCurrentIndex(page);
+            checkPage(window, QStringLiteral("%1-%2").arg(name).arg(page + 1));
+        }
+    }
+    void checkPage(QWidget& window, const QString& name) {
         SCOPED_TRACE(name.toStdString());
         forms::letEventsRun();
         picture(window, name);
@@ -206,6 +219,31 @@ TEST_P(AllWindows, SizingALink) {
         QStringLiteral("ResizeD"));
 }
 
+/// The windows of a scene with everything in it: that of the sample game.
+class AllEditors : public AllWindows {
+  protected:
+    AllEditors() {
+        std::filesystem::copy(QUORVEL_SAMPLE_GAME, projects / "Lantern",
+                              std::filesystem::copy_options::recursive);
+        start({text(projects / "Lantern" / "Lantern.qvl")});
+    }
+    void checkEditor(const QString& name, const std::function<void()>& routine) {
+        withWindow(name, routine, [&](QWidget& window) {
+            check(window, name);
+            window.close();
+        });
+    }
+};
+
+TEST_P(AllEditors, Link) {
+    shell->scene().LinkUp = {.pointer = 1, .target = 1};
+    shell->actions().PopupObject = 2;
+    checkEditor(QStringLiteral("directionprop"), [this] {
+        Q_EMIT shell->actions().popups().chosen(canvas::PopupMenu::link,
+                                                canvas::PopupAction::properties);
+    });
+}
+
 TEST_P(AllWindows, Boxes) {
     const std::vector<std::pair<const char*, Box>> boxesToShow = {
         {"Box-plain", {.text = QStringLiteral("Saved folder exists")}},
@@ -239,11 +277,11 @@ TEST_P(AllWindows, Boxes) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Looks, AllWindows, ::testing::Values(Look::light, Look::dark),
-                         [](const auto& one) {
-                             return one.param == Look::dark ? std::string("Dark")
-                                                            : std::string("Light");
-                         });
+std::string nameOfLook(const ::testing::TestParamInfo<Look>& one) {
+    return one.param == Look::dark ? "Dark" : "Light";
+}
+INSTANTIATE_TEST_SUITE_P(Looks, AllWindows, ::testing::Values(Look::light, Look::dark), nameOfLook);
+INSTANTIATE_TEST_SUITE_P(Looks, AllEditors, ::testing::Values(Look::light, Look::dark), nameOfLook);
 
 /// The same windows in a process of its own, with `variable` set.
 void expectPassWith(const char* variable, const char* value) {
@@ -262,7 +300,7 @@ void expectPassWith(const char* variable, const char* value) {
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("--gtest_filter=Looks/AllWindows.*")});
+                  {QStringLiteral("--gtest_filter=Looks/All*")});
     ASSERT_TRUE(process.waitForFinished(100000));
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(process.exitCode(), 0) << process.readAll().toStdString();

@@ -1,0 +1,41 @@
+#include "shell/scene_editors.h"
+
+#include <utility>
+
+#include "forms/events.h"
+#include "objects/link_editor.h"
+
+namespace quorvel::shell {
+namespace {
+
+constexpr int kLinkTip = 5;
+
+}  // namespace
+
+SceneEditors::SceneEditors(groups::Tools tools, store::Scene& scene, canvas::SceneView& view,
+                           canvas::SceneKeeper& keeper, canvas::ObjectActions& actions,
+                           Guide& guide)
+    : tools_(std::move(tools)),
+      view_(view),
+      actions_(actions),
+      house_{tools_, scene, view, keeper, actions.CurObj},
+      guide_(guide) {
+    actions.registerLinkEditor(
+        [this] { open<objects::directionprop>("directionprop", kLinkTip, actions_.PopupObject); });
+}
+
+template <class Window>
+void SceneEditors::open(const char* name, int quickTip, int object) {
+    if (guide_.quickTip) {
+        guide_.quickTip(quickTip);
+    }
+    actions_.CurObj = object;
+    Window window(house_,
+                  guide_.help ? guide_.help(QString::fromLatin1(name)) : std::function<void()>(),
+                  view_.window());
+    forms::letEventsRun();
+    window.exec();
+    actions_.CurObj = 0;
+}
+
+}  // namespace quorvel::shell
