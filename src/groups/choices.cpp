@@ -48,12 +48,14 @@ void SceneChoice::refresh(bool onCanvas) {
 }
 
 PointerChoice::PointerChoice(Sheet& sheet, const Names& names, QWidget* parent)
-    : QObject(parent),
-      list(makeList(name(names.list), QStringLiteral("Mousepointer"), pointers(names.hotSpot),
-                    parent)),
-      preview(new PictureBox(name(names.preview), QStringLiteral("Picture of the mousepointer"),
-                             kIcon, parent)),
-      sheet_(sheet) {
+    : QObject(parent), sheet_(sheet) {
+    const Frame made = makeFrame(names.frame, "Mousepointer", parent);
+    frame = made.box;
+    list =
+        makeList(name(names.list), QStringLiteral("Mousepointer"), pointers(names.hotSpot), frame);
+    preview = new PictureBox(name(names.preview), QStringLiteral("Picture of the mousepointer"),
+                             kIcon, frame);
+    made.column->addLayout(makeRow({list, preview}, list));
     connect(list, &QComboBox::activated, this, [this](int index) {
         refresh();
         Q_EMIT picked(index);

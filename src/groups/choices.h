@@ -40,12 +40,14 @@ class PointerChoice : public QObject {
     Q_OBJECT
   public:
     struct Names {
+        const char* frame;
         const char* list;
         const char* preview;
         bool hotSpot = false;  ///< offers "HOTSPOT" too
     };
     PointerChoice(Sheet& sheet, const Names& names, QWidget* parent);
 
+    QGroupBox* frame;
     QComboBox* list;
     PictureBox* preview;
 

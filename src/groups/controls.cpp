@@ -30,6 +30,36 @@ Frame makeFrame(const char* name, const char* caption, QWidget* parent) {
     return {box, column};
 }
 
+QHBoxLayout* makeRow(const std::vector<QWidget*>& widgets, const QWidget* wide) {
+    auto* row = new QHBoxLayout;
+    for (QWidget* widget : widgets) {
+        row->addWidget(widget, widget == wide ? 1 : 0);
+    }
+    if (wide == nullptr) {
+        row->addStretch();
+    }
+    return row;
+}
+
+void addAll(QVBoxLayout* column, const std::vector<QWidget*>& widgets) {
+    for (QWidget* widget : widgets) {
+        column->addWidget(widget);
+    }
+}
+
+std::array<QVBoxLayout*, 2> addHalves(QVBoxLayout* column) {
+    auto* halves = new QHBoxLayout;
+    halves->setSpacing(forms::kFormSpacing);
+    std::array<QVBoxLayout*, 2> made{};
+    for (QVBoxLayout*& half : made) {
+        half = new QVBoxLayout;
+        half->setSpacing(forms::kFormSpacing);
+        halves->addLayout(half, 1);
+    }
+    column->addLayout(halves);
+    return made;
+}
+
 QLabel* makeLabel(const char* text, QWidget* parent, const char* name) {
     auto* label = new QLabel(QString::fromLatin1(text), parent);
     label->setTextFormat(Qt::PlainText);
@@ -145,6 +175,17 @@ OptionGroup::OptionGroup(const char* name, int firstIndex, const std::vector<con
         group->addButton(option);
         options_.push_back(option);
         ++index;
+    }
+    connect(group, &QButtonGroup::buttonToggled, this, &OptionGroup::followFocus);
+    followFocus();
+}
+
+/// The Tab key stops at the option that is on, the arrows go to the others.
+void OptionGroup::followFocus() {
+    const bool none = !chosen().has_value();
+    for (QRadioButton* option : options_) {
+        const bool stop = option->isChecked() || (none && option == first());
+        option->setFocusPolicy(stop ? Qt::StrongFocus : Qt::ClickFocus);
     }
 }
 

@@ -1,6 +1,7 @@
 /// The plain controls of property windows, each made with its system name and caption.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -14,6 +15,7 @@
 #include <QStringList>
 
 class QBoxLayout;
+class QHBoxLayout;
 class QVBoxLayout;
 
 namespace quorvel::groups {
@@ -24,6 +26,16 @@ struct Frame {
     QVBoxLayout* column;
 };
 Frame makeFrame(const char* name, const char* caption, QWidget* parent);
+
+/// Widgets side by side. `wide` takes the room that is left; without it they stand at the left.
+QHBoxLayout* makeRow(const std::vector<QWidget*>& widgets, const QWidget* wide = nullptr);
+
+void addAll(QVBoxLayout* column, const std::vector<QWidget*>& widgets);
+
+/// Two columns of one width, side by side at the end of `column`.
+std::array<QVBoxLayout*, 2> addHalves(QVBoxLayout* column);
+/// How far something stands in from the option that it belongs to, in pixels.
+inline constexpr int kIndent = 22;
 
 /// Captions without a name of the system's own bear none.
 QLabel* makeLabel(const char* text, QWidget* parent, const char* name = "");
@@ -85,7 +97,9 @@ class OptionGroup : public QObject {
 
     [[nodiscard]] QRadioButton* option(int index) const;
     [[nodiscard]] QRadioButton* first() const { return options_.front(); }
-    [[nodiscard]] const std::vector<QRadioButton*>& all() const { return options_; }
+    [[nodiscard]] std::vector<QWidget*> widgets() const {
+        return {options_.begin(), options_.end()};
+    }
 
     /// The index of the option that is on, or nothing.
     [[nodiscard]] std::optional<int> chosen() const;
@@ -99,6 +113,8 @@ class OptionGroup : public QObject {
     void clicked(int index);
 
   private:
+    void followFocus();
+
     int firstIndex_;
     std::vector<QRadioButton*> options_;
 };

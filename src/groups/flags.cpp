@@ -2,28 +2,13 @@
 
 #include <QBoxLayout>
 
-#include "forms/form.h"
-
 namespace quorvel::groups {
-namespace {
-
-NumberBox* makeNumber(Sheet& sheet, NumberRule rule, const char* name, const QString& spoken,
-                      QWidget* parent) {
-    auto* box = new NumberBox(rule, sheet.tools().beep, parent);
-    box->setObjectName(QString::fromLatin1(name));
-    box->setAccessibleName(spoken);
-    QObject::connect(box, &QLineEdit::textChanged, &sheet, &Sheet::touch);
-    return box;
-}
-
-}  // namespace
-
 FlagTest::FlagTest(Sheet& sheet, const Names& names, QWidget* parent)
     : QObject(parent),
-      flag(makeNumber(sheet, names.rule, names.flag, QStringLiteral("Flag"), parent)),
+      flag(makeNumber(sheet, names.rule, names.flag, "Flag", parent)),
       comparison(makeList(QString::fromLatin1(names.comparison), QStringLiteral("Comparison"),
                           comparisons(), parent)),
-      value(makeNumber(sheet, NumberRule::value, names.value, QStringLiteral("Value"), parent)),
+      value(makeNumber(sheet, NumberRule::value, names.value, "Value", parent)),
       label_(makeLabel(names.caption, parent, names.label)) {
     label_->setBuddy(flag);
     flag->setToolTip(QStringLiteral("(1-255)"));
@@ -45,24 +30,28 @@ void FlagTest::addTo(QBoxLayout* row) {
 }
 
 FlagSet::FlagSet(Sheet& sheet, const Names& names, QWidget* parent)
-    : QObject(parent),
-      flag(makeNumber(sheet, names.rule, names.flag, QStringLiteral("Flag"), parent)),
-      value(makeNumber(sheet, NumberRule::value, names.value, QStringLiteral("Value"), parent)),
-      add(makeCheck(names.add, "ADD value to flag", parent)),
-      ticking_(names.ticking) {
+    : QObject(parent), ticking_(names.ticking) {
+    const Frame made = makeFrame(names.frame, names.frameCaption, parent);
+    frame = made.box;
     if (*names.on != '\0') {
-        on = makeWrapCheck(names.on, names.caption, parent);
+        on = makeWrapCheck(names.on, names.caption, frame);
+        made.column->addWidget(on);
         connect(on, &QCheckBox::clicked, this, [this, &sheet] {
             sheet.touch();
             Q_EMIT ticked();
         });
     }
+    flag = makeNumber(sheet, names.rule, names.flag, "Flag", frame);
     flag->setToolTip(QStringLiteral("(1-255)"));
     flag->setText(QStringLiteral("1"));
+    value = makeNumber(sheet, NumberRule::value, names.value, "Value", frame);
     value->setText(QStringLiteral("0"));
-    labels_ = {makeLabel("Flag", parent), makeLabel("Value", parent)};
-    labels_[0]->setBuddy(flag);
-    labels_[1]->setBuddy(value);
+    add = makeCheck(names.add, "ADD value to flag", frame);
+    QLabel* flagLabel = makeLabel("Flag", frame);
+    flagLabel->setBuddy(flag);
+    QLabel* valueLabel = makeLabel("Value", frame);
+    valueLabel->setBuddy(value);
+    made.column->addLayout(makeRow({flagLabel, flag, valueLabel, value, add}));
     connect(flag, &NumberBox::typed, this, &FlagSet::tick);
     connect(value, &NumberBox::typed, this, &FlagSet::tick);
     connect(add, &QCheckBox::clicked, this, [this, &sheet] {
@@ -76,21 +65,6 @@ void FlagSet::tick() {
         on->setChecked(true);
         Q_EMIT ticked();
     }
-}
-
-void FlagSet::addTo(QVBoxLayout* column) {
-    if (on != nullptr) {
-        column->addWidget(on);
-    }
-    auto* row = new QHBoxLayout;
-    row->addWidget(labels_[0]);
-    row->addWidget(flag);
-    row->addWidget(labels_[1]);
-    row->addWidget(value);
-    row->addSpacing(forms::kFormSpacing);
-    row->addWidget(add);
-    row->addStretch();
-    column->addLayout(row);
 }
 
 Visibility::Visibility(Sheet& sheet, const Names& names, QWidget* parent) : QObject(parent) {

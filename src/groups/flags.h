@@ -44,6 +44,8 @@ class FlagSet : public QObject {
     /// What ticks the check box.
     enum class Ticking : std::uint8_t { byNumbersAndAdd, never };
     struct Names {
+        const char* frame = "Frame9";
+        const char* frameCaption = "Set Flag";
         const char* on = "Check3";  ///< empty for none
         const char* caption = "Set Flag";
         const char* flag = "FlagID(1)";
@@ -54,13 +56,11 @@ class FlagSet : public QObject {
     };
     FlagSet(Sheet& sheet, const Names& names, QWidget* parent);
 
+    QGroupBox* frame;
     QCheckBox* on = nullptr;
     NumberBox* flag;
     NumberBox* value;
     QCheckBox* add;
-
-    /// Puts the switch and, below it, the row of the numbers at the end of `column`.
-    void addTo(QVBoxLayout* column);
 
   Q_SIGNALS:
     /// The author has clicked the switch, or used what ticks it.
@@ -70,7 +70,6 @@ class FlagSet : public QObject {
     void tick();
 
     Ticking ticking_;
-    std::vector<QLabel*> labels_;
 };
 
 /// "Always visible" or "Visible when:" a test holds. The test keeps its values in either case.

@@ -1,11 +1,13 @@
 #include "groups/number_box.h"
 
+#include <limits>
 #include <utility>
 
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QRegularExpressionValidator>
 
+#include "groups/sheet.h"
 #include "store/numbers.h"
 
 namespace quorvel::groups {
@@ -40,6 +42,19 @@ int NumberBox::number() const {
     return store::valInt(text().toStdString());
 }
 
+QString NumberBox::problem() const {
+    using Limits = std::numeric_limits<std::int16_t>;
+    constexpr int kMostShown = 40;
+    if (number() >= Limits::min() && number() <= Limits::max()) {
+        return {};
+    }
+    return QStringLiteral(
+               "The number %1 cannot be saved.\n\nNumbers can be from %2 to %3.  Please enter "
+               "another one.")
+        .arg(text().left(kMostShown), QString::number(Limits::min()),
+             QString::number(Limits::max()));
+}
+
 void NumberBox::mend() {
     if (rule_ == NumberRule::flag && (number() < kLowestFlag || number() > kHighestFlag)) {
         setText(QString::number(kLowestFlag));
@@ -71,6 +86,15 @@ void NumberBox::focusOutEvent(QFocusEvent* event) {
     if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason) {
         mend();
     }
+}
+
+NumberBox* makeNumber(Sheet& sheet, NumberRule rule, const char* name, const char* spoken,
+                      QWidget* parent) {
+    auto* box = new NumberBox(rule, sheet.tools().beep, parent);
+    box->setObjectName(QString::fromLatin1(name));
+    box->setAccessibleName(QString::fromLatin1(spoken));
+    QObject::connect(box, &QLineEdit::textChanged, &sheet, &Sheet::touch);
+    return box;
 }
 
 }  // namespace quorvel::groups

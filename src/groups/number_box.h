@@ -8,6 +8,8 @@
 
 namespace quorvel::groups {
 
+class Sheet;
+
 /// What a number box takes.
 enum class NumberRule : std::uint8_t {
     flag,      ///< digits; a value outside 1 to 255 becomes 1 when the box is left
@@ -26,6 +28,9 @@ class NumberBox : public QLineEdit {
     /// The number that the text begins with, rounded; 0 of an empty box. May lie outside 16 bits.
     [[nodiscard]] int number() const;
 
+    /// Why the number cannot be stored: it has more than 16 bits. Empty when it can.
+    [[nodiscard]] QString problem() const;
+
     /// The range rule, as when the box is left.
     void mend();
 
@@ -42,5 +47,9 @@ class NumberBox : public QLineEdit {
     std::function<void()> beep_;
     bool takingAway_ = false;
 };
+
+/// A number box of a window: a change of it is one of the window.
+NumberBox* makeNumber(Sheet& sheet, NumberRule rule, const char* name, const char* spoken,
+                      QWidget* parent);
 
 }  // namespace quorvel::groups

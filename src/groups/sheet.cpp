@@ -1,7 +1,6 @@
 #include "groups/sheet.h"
 
 #include <algorithm>
-#include <limits>
 #include <optional>
 
 #include <QCheckBox>
@@ -47,24 +46,12 @@ class NumberBinding : public Binding {
         field_.set(static_cast<std::int16_t>(kept_));
     }
     [[nodiscard]] QString problem() const override {
-        using Limits = std::numeric_limits<std::int16_t>;
-        const auto value = face_.value();
-        if (!value || (*value >= Limits::min() && *value <= Limits::max())) {
-            return {};
-        }
-        const auto* box = qobject_cast<const QLineEdit*>(face_.control);
-        const QString text = box != nullptr ? box->text() : QString::number(*value);
-        return QStringLiteral(
-                   "The number %1 cannot be saved.\n\nNumbers can be from %2 to %3.  Please enter "
-                   "another one.")
-            .arg(text.left(kMostShown), QString::number(Limits::min()),
-                 QString::number(Limits::max()));
+        const auto* box = qobject_cast<const NumberBox*>(face_.control);
+        return box == nullptr ? QString() : box->problem();
     }
     [[nodiscard]] QWidget* control() const override { return face_.control; }
 
   private:
-    static constexpr int kMostShown = 40;
-
     NumberRef field_;
     NumberFace face_;
     int kept_ = 0;
@@ -73,7 +60,13 @@ class NumberBinding : public Binding {
 
 class TextBinding : public Binding {
   public:
-    TextBinding(TextRef field, QLineEdit* box) : field_(std::move(field)), box_(box) {}
+    TextBinding(TextRef field, QLineEdit* box) : field_(std::move(field)), box_(box) {
+        if (qobject_cast<NumberBox*>(box) != nullptr) {
+            // Digits that the record would cut off make it another number.
+            constexpr int kFieldWidth = 15;
+            box->setMaxLength(kFieldWidth);
+        }
+    }
 
     void load() override {
         kept_ = field_.get();
@@ -85,6 +78,10 @@ class TextBinding : public Binding {
             kept_ = shown_ = box_->text();
         }
         field_.set(kept_);
+    }
+    [[nodiscard]] QString problem() const override {
+        const auto* number = qobject_cast<const NumberBox*>(box_);
+        return number == nullptr ? QString() : number->problem();
     }
     [[nodiscard]] QWidget* control() const override { return box_; }
 

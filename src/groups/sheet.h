@@ -85,6 +85,7 @@ class Sheet : public QObject {
     void bind(const NumberRef& field, ChannelList* list);
     /// The index of the entry.
     void bind(const NumberRef& field, QComboBox* list);
+    /// Of a box for numbers, the number as text.
     void bind(const TextRef& field, QLineEdit* box);
     /// The index of the entry as decimal text; what is no entry counts as 0.
     void bindText(const TextRef& field, QComboBox* list);

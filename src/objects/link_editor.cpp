@@ -33,25 +33,18 @@ directionprop::directionprop(const House& house, const std::function<void()>& he
         tabs_->addTab(QString::fromLatin1(direction.caption));
     }
 
-    const auto pointer = makeFrame("Frame1(1)", "Mousepointer", this);
-    pointer_ =
-        new groups::PointerChoice(sheet(), {.list = "Combo1", .preview = "Picture1"}, pointer.box);
-    auto* pointerRow = new QHBoxLayout;
-    pointerRow->addWidget(pointer_->list, 1);
-    pointerRow->addWidget(pointer_->preview);
-    pointer.column->addLayout(pointerRow);
+    pointer_ = new groups::PointerChoice(
+        sheet(), {.frame = "Frame1(1)", .list = "Combo1", .preview = "Picture1"}, this);
 
     const auto scene = makeFrame("Frame1(2)", "Linked Scene", this);
     scene_ = new groups::SceneChoice(
         sheet(), {.list = "combo2", .canvasOnPick = true, .canvasOnOpening = true}, scene.box);
-    auto* sceneRow = new QHBoxLayout;
-    sceneRow->addWidget(groups::makeLabel("Scene >", scene.box, "label3"));
-    sceneRow->addWidget(scene_->list, 1);
-    sceneRow->addWidget(scene_->thumbnail);
-    scene.column->addLayout(sceneRow);
+    scene.column->addLayout(groups::makeRow(
+        {groups::makeLabel("Scene >", scene.box, "label3"), scene_->list, scene_->thumbnail},
+        scene_->list));
 
     column()->addWidget(tabs_);
-    column()->addWidget(pointer.box);
+    column()->addWidget(pointer_->frame);
     column()->addWidget(scene.box);
     addButtonRow(column(),
                  {{"Command1", "OK", [this] { accept(); }, forms::FormButton::Role::byEnter},

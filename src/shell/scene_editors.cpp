@@ -3,12 +3,14 @@
 #include <utility>
 
 #include "forms/events.h"
+#include "objects/hotspot_editor.h"
 #include "objects/link_editor.h"
 
 namespace quorvel::shell {
 namespace {
 
 constexpr int kLinkTip = 5;
+constexpr int kHotSpotTip = 14;
 
 }  // namespace
 
@@ -22,6 +24,9 @@ SceneEditors::SceneEditors(groups::Tools tools, store::Scene& scene, canvas::Sce
       guide_(guide) {
     actions.registerLinkEditor(
         [this] { open<objects::directionprop>("directionprop", kLinkTip, actions_.PopupObject); });
+    actions.registerEditor(store::ObjectType::hotSpot, [this] {
+        open<objects::linkPropf>("linkPropf", kHotSpotTip, actions_.PopupObject);
+    });
 }
 
 template <class Window>

@@ -244,6 +244,43 @@ TEST_P(AllEditors, Link) {
     });
 }
 
+/// A HotSpot in slot 20 with something in each of its fields.
+void fillHotSpot(store::ObjectSlot& slot) {
+    using store::HotSpot;
+    store::ResetSlot(slot, store::ObjectType::hotSpot, 300, 200);
+    store::word(slot, HotSpot::Image) = "Lever.gif";
+    store::word(slot, HotSpot::Sound) = "Waves.wav";
+    store::word(slot, HotSpot::SuccessSound) = "Click.wav";
+    store::number(slot, HotSpot::SoundVolume) = -650;
+    store::number(slot, HotSpot::SoundPan) = -1500;
+    store::number(slot, HotSpot::TargetScene) = 2;
+    store::number(slot, HotSpot::NeedsItem) = 1;
+    store::number(slot, HotSpot::NeededItem) = 1;
+    store::number(slot, HotSpot::Visibility) = 2;
+    store::number(slot, HotSpot::VisibleValue) = -32768;
+}
+
+TEST_P(AllEditors, HotSpot) {
+    fillHotSpot(shell->scene().slot(20));
+    shell->actions().PopupObject = 20;
+    checkEditor(QStringLiteral("linkPropf"), [this] { shell->actions().ShowObjectProps(1); });
+}
+
+TEST_P(AllEditors, FreshQuickSpot) {
+    store::ObjectSlot& slot = shell->scene().slot(20);
+    store::ResetSlot(slot, store::ObjectType::hotSpot, 300, 200);
+    store::number(slot, store::HotSpot::QuickSpot) = 1;
+    store::word(slot, store::HotSpot::QuickHeight) = "40";
+    store::word(slot, store::HotSpot::QuickWidth) = "60";
+    shell->actions().PopupObject = 20;
+    withWindow(
+        QStringLiteral("linkPropf"), [this] { shell->actions().ShowObjectProps(1); },
+        [this](QWidget& window) {
+            check(window, QStringLiteral("linkPropf-quick"));
+            window.close();
+        });
+}
+
 TEST_P(AllWindows, Boxes) {
     const std::vector<std::pair<const char*, Box>> boxesToShow = {
         {"Box-plain", {.text = QStringLiteral("Saved folder exists")}},
