@@ -65,13 +65,12 @@ void MoviePlay::ended() {
 
 MovieRow::MovieRow(Sheet& sheet, MoviePlay& movies, const Names& names, QWidget* parent)
     : QObject(parent),
-      file(new FileBox(name(names.file), spokenOf(names, "file"), parent)),
-      volume(new Level(name(names.slider), name(names.value), spokenOf(names, "volume"),
-                       kMovieVolume, parent)),
+      file(new FileBox(names.file, spokenOf(names, "file"), parent)),
+      volume(new Level(names.slider, names.value, spokenOf(names, "volume"), kMovieVolume, parent)),
       sheet_(sheet),
       movies_(movies),
-      locate_(makeSmallButton(name(names.locate), "...", spokenOf(names, "locate"), parent)),
-      playButton_(makeSmallButton(name(names.play), ">", spokenOf(names, "play"), parent)),
+      locate_(makeSmallButton(names.locate, "...", spokenOf(names, "locate"), parent)),
+      playButton_(makeSmallButton(names.play, ">", spokenOf(names, "play"), parent)),
       label_(makeLabel(names.label, parent)),
       volumeLabel_(makeLabel("Vol >", parent)) {
     locate_->setToolTip(QStringLiteral("Locate"));

@@ -38,11 +38,11 @@ class MovieRow : public QObject {
     struct Names {
         const char* spoken;
         const char* label;
-        const char* file;
-        const char* locate;
-        const char* play;
-        const char* slider;
-        const char* value;
+        QString file;
+        QString locate;
+        QString play;
+        QString slider;
+        QString value;
     };
     MovieRow(Sheet& sheet, MoviePlay& movies, const Names& names, QWidget* parent);
 

@@ -5,11 +5,13 @@
 #include "forms/events.h"
 #include "objects/hotspot_editor.h"
 #include "objects/link_editor.h"
+#include "objects/scene_editor.h"
 
 namespace quorvel::shell {
 namespace {
 
 constexpr int kLinkTip = 5;
+constexpr int kSceneTip = 6;
 constexpr int kHotSpotTip = 14;
 
 }  // namespace
@@ -24,9 +26,14 @@ SceneEditors::SceneEditors(groups::Tools tools, store::Scene& scene, canvas::Sce
       guide_(guide) {
     actions.registerLinkEditor(
         [this] { open<objects::directionprop>("directionprop", kLinkTip, actions_.PopupObject); });
+    actions.registerSceneEditor([this] { showSceneProperties(); });
     actions.registerEditor(store::ObjectType::hotSpot, [this] {
         open<objects::linkPropf>("linkPropf", kHotSpotTip, actions_.PopupObject);
     });
+}
+
+void SceneEditors::showSceneProperties() {
+    open<objects::sceneimage>("sceneimage", kSceneTip, 0);
 }
 
 template <class Window>

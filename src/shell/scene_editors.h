@@ -20,6 +20,8 @@ class SceneEditors {
     SceneEditors(groups::Tools tools, store::Scene& scene, canvas::SceneView& view,
                  canvas::SceneKeeper& keeper, canvas::ObjectActions& actions, Guide& guide);
 
+    void showSceneProperties();
+
   private:
     /// Shows a window modally after its Quick Tip. `object` is what is edited meanwhile.
     template <class Window>

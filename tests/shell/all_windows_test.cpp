@@ -281,6 +281,23 @@ TEST_P(AllEditors, FreshQuickSpot) {
         });
 }
 
+TEST_P(AllEditors, Scene) {
+    using store::HeaderInt;
+    using store::HeaderString;
+    store::Scene& scene = shell->scene();
+    scene.header(HeaderInt::SceneCheckFlagOn) = 1;
+    scene.header(HeaderInt::SceneCheckFlagId) = 255;
+    scene.header(HeaderInt::SceneCheckFlagTarget) = 2;
+    scene.header(HeaderString::SceneSoundtrack) = "KeepWaltz.mid";
+    scene.header(HeaderString::SceneEnterMovie) = "Beacon.avi";
+    scene.header(HeaderInt::SceneEnterMovieVolume) = 60;
+    scene.header(HeaderString::SceneSound1File) = "Bell.wav";
+    scene.header(HeaderString::SceneSound3File) = "Waves.wav";
+    scene.header(HeaderInt::SceneSound3Volume) = -900;
+    checkEditor(QStringLiteral("sceneimage"),
+                [this] { action(QStringLiteral("scnmen(1)")).trigger(); });
+}
+
 TEST_P(AllWindows, Boxes) {
     const std::vector<std::pair<const char*, Box>> boxesToShow = {
         {"Box-plain", {.text = QStringLiteral("Saved folder exists")}},
