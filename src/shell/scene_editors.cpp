@@ -17,13 +17,12 @@ constexpr int kHotSpotTip = 14;
 }  // namespace
 
 SceneEditors::SceneEditors(groups::Tools tools, store::Scene& scene, canvas::SceneView& view,
-                           canvas::SceneKeeper& keeper, canvas::ObjectActions& actions,
-                           Guide& guide)
+                           canvas::SceneKeeper& keeper, canvas::ObjectActions& actions, Guide guide)
     : tools_(std::move(tools)),
       view_(view),
       actions_(actions),
       house_{tools_, scene, view, keeper, actions.CurObj},
-      guide_(guide) {
+      guide_(std::move(guide)) {
     actions.registerLinkEditor(
         [this] { open<objects::directionprop>("directionprop", kLinkTip, actions_.PopupObject); });
     actions.registerSceneEditor([this] { showSceneProperties(); });
@@ -38,13 +37,9 @@ void SceneEditors::showSceneProperties() {
 
 template <class Window>
 void SceneEditors::open(const char* name, int quickTip, int object) {
-    if (guide_.quickTip) {
-        guide_.quickTip(quickTip);
-    }
+    guide_.quickTip(quickTip);
     actions_.CurObj = object;
-    Window window(house_,
-                  guide_.help ? guide_.help(QString::fromLatin1(name)) : std::function<void()>(),
-                  view_.window());
+    Window window(house_, guide_.help(QString::fromLatin1(name)), view_.window());
     forms::letEventsRun();
     window.exec();
     actions_.CurObj = 0;

@@ -11,14 +11,14 @@ namespace quorvel::shell {
 /// Registers the editors with the canvas. Owned by the shell; all references must outlive it.
 class SceneEditors {
   public:
-    /// What is shown beside the windows. Each may be empty.
+    /// What is shown beside the windows.
     struct Guide {
         std::function<void(int number)> quickTip;
         /// What the Help button of a window shows, by the window's name; nothing disables it.
         std::function<std::function<void()>(const QString& window)> help;
     };
     SceneEditors(groups::Tools tools, store::Scene& scene, canvas::SceneView& view,
-                 canvas::SceneKeeper& keeper, canvas::ObjectActions& actions, Guide& guide);
+                 canvas::SceneKeeper& keeper, canvas::ObjectActions& actions, Guide guide);
 
     void showSceneProperties();
 
@@ -31,7 +31,7 @@ class SceneEditors {
     canvas::SceneView& view_;
     canvas::ObjectActions& actions_;
     objects::House house_;
-    Guide& guide_;
+    Guide guide_;
 };
 
 }  // namespace quorvel::shell

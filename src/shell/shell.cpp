@@ -135,7 +135,13 @@ void Shell::loadActions() {
                       .pictures = pictures_,
                       .lists = models_,
                       .beep = surroundings_.beep},
-        scene_, main_->view(), *keeper_, *actions_, editorGuide);
+        scene_, main_->view(), *keeper_, *actions_,
+        SceneEditors::Guide{.quickTip = [this](int number) { ShowQuickTip(number); },
+                            .help =
+                                [this](const QString& window) {
+                                    return helpOfEditor ? helpOfEditor(window)
+                                                        : std::function<void()>();
+                                }});
     const SidePanel& side = main_->side();
     connect(side.ObjAlert, &QPushButton::clicked, this, [this] { actions_->ObjAlert_Click(); });
     connect(side.ScnAlert, &QPushButton::clicked, this, [this] { actions_->ScnAlert_Click(); });

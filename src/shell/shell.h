@@ -83,8 +83,9 @@ class Shell : public QObject {
     /// Shows Quick Tip `number`, 1 to 21.
     std::function<void(int number)> ShowQuickTip = [](int) {};
 
-    /// What the windows over the scene show beside themselves; it may be set at any time.
-    SceneEditors::Guide editorGuide;
+    /// What the Help button of a window over the scene shows, by the window's name. It may be set
+    /// at any time; without it, and where it gives nothing, the button is disabled.
+    std::function<std::function<void()>(const QString& window)> helpOfEditor;
 
     QString InstallPath;         ///< with a separator at its end
     QString HelpFile;            ///< the first page of the help

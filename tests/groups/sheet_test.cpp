@@ -6,33 +6,23 @@
 #include "groups/level.h"
 #include "groups/number_box.h"
 #include "groups/record_list.h"
-#include "support/windows/shell_fixture.h"
+#include "groups/tools_fixture.h"
 
 namespace quorvel::test {
 namespace {
 
 using namespace groups;
 
-/// A sheet binds controls to plain numbers; what it is given from outside it does not use.
-class Sheets : public ShellFixture {
+/// A sheet binds controls to plain numbers; of what it is given from outside it uses nothing.
+class Sheets : public ToolsFixture {
   protected:
     Sheets() {
-        start();
-        tools = std::make_unique<Tools>(Tools{.project = shell->project(),
-                                              .scene = shell->scene(),
-                                              .boxes = boxes,
-                                              .files = shell->fileChoice(),
-                                              .preview = shell->preview(),
-                                              .pictures = pictures,
-                                              .lists = models,
-                                              .beep = [] {}});
+        open(ProjectBuilder());
         sheet = std::make_unique<Sheet>(*tools);
         QObject::connect(sheet.get(), &Sheet::touched, [this] { ++touches; });
     }
-    forms::PictureStore pictures;
     store::ProjectLists records;
-    forms::ProjectListModels models{records};
-    std::unique_ptr<Tools> tools;
+    forms::ProjectListModels lists{records};
     std::unique_ptr<Sheet> sheet;
     QWidget window;
     int touches = 0;
@@ -40,7 +30,7 @@ class Sheets : public ShellFixture {
 
 TEST_F(Sheets, EachKindOfControlCarriesItsNumberBothWays) {
     records.scenes = {{1, "One"}, {2, "Two"}};
-    models.refresh();
+    lists.refresh();
     std::array<std::int16_t, 7> numbers = {1, -77, 2, -300, 2, 15, 3};
     std::string name = "door.wav";
     std::string group = "4";
@@ -49,7 +39,7 @@ TEST_F(Sheets, EachKindOfControlCarriesItsNumberBothWays) {
         NumberRule::value, [] {}, nullptr);
     OptionGroup options("Option1", 1, {"A", "B", "C"}, &window);
     Level level(QStringLiteral("s"), QStringLiteral("b"), QString(), kWavVolume, &window);
-    RecordList scenes(QStringLiteral("l"), QString(), models.scenes, &window);
+    RecordList scenes(QStringLiteral("l"), QString(), lists.scenes, &window);
     ChannelList channel(QStringLiteral("c"), &window);
     QComboBox list;
     list.addItems(comparisons());
@@ -95,10 +85,10 @@ TEST_F(Sheets, EachKindOfControlCarriesItsNumberBothWays) {
 
 TEST_F(Sheets, WhatAControlCannotShowStaysUntilTheAuthorChooses) {
     records.scenes = {{1, "One"}};
-    models.refresh();
+    lists.refresh();
     std::array<std::int16_t, 5> numbers = {500, 9, 7, 1234, 99};
     const auto before = numbers;
-    RecordList scenes(QStringLiteral("l"), QString(), models.scenes, &window);
+    RecordList scenes(QStringLiteral("l"), QString(), lists.scenes, &window);
     OptionGroup options("Option1", 1, {"A", "B"}, &window);
     QCheckBox check;
     Level level(QStringLiteral("s"), QStringLiteral("b"), QString(), kWavVolume, &window);

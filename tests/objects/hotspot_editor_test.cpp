@@ -460,7 +460,7 @@ TEST_F(HotSpotEditor, ASecondActivationLosesNoChange) {
 TEST_F(HotSpotEditor, AnInsertedHotSpotIsFilledInAtOnceAfterItsQuickTip) {
     openGame();
     QStringList tips;
-    shell->editorGuide.quickTip = [&tips](int number) { tips << QString::number(number); };
+    shell->ShowQuickTip = [&tips](int number) { tips << QString::number(number); };
     bool filled = false;
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, [&] {

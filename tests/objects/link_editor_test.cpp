@@ -178,12 +178,12 @@ TEST_F(LinkEditor, TheFileHoldsTheLinkAndNothingElseHasChanged) {
 TEST_F(LinkEditor, TheMenuOffersItAfterItsQuickTip) {
     open(threeScenes());
     QStringList shown;
-    shell->editorGuide.quickTip = [&shown](int number) {
+    shell->ShowQuickTip = [&shown](int number) {
         EXPECT_EQ(visibleWindow(QStringLiteral("directionprop")), nullptr);
         shown << QString::number(number);
     };
     QString helped;
-    shell->editorGuide.help = [&helped](const QString& window) {
+    shell->helpOfEditor = [&helped](const QString& window) {
         return [&helped, window] { helped = window; };
     };
     editLink(1, [](const Hand& hand) { hand.click("Command3"); });

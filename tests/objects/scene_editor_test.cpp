@@ -222,7 +222,7 @@ TEST_F(SceneEditor, NumbersBeyond16BitsAreToldAndNothingIsStored) {
 TEST_F(SceneEditor, IsOfferedByMenuToolBarAndCanvasWhileAProjectIsOpen) {
     openGame();
     QStringList tips;
-    shell->editorGuide.quickTip = [&tips](int number) { tips << QString::number(number); };
+    shell->ShowQuickTip = [&tips](int number) { tips << QString::number(number); };
     const auto close = [](QWidget& window) { window.close(); };
     withWindow(
         QStringLiteral("sceneimage"), [this] { action(QStringLiteral("scnmen(1)")).trigger(); },
