@@ -3,6 +3,15 @@
 #include <QBoxLayout>
 
 namespace quorvel::groups {
+NumberBox* makeNumber(Sheet& sheet, NumberRule rule, const char* name, const char* spoken,
+                      QWidget* parent) {
+    auto* box = new NumberBox(rule, sheet.tools().beep, parent);
+    box->setObjectName(QString::fromLatin1(name));
+    box->setAccessibleName(QString::fromLatin1(spoken));
+    QObject::connect(box, &QLineEdit::textChanged, &sheet, &Sheet::touch);
+    return box;
+}
+
 FlagTest::FlagTest(Sheet& sheet, const Names& names, QWidget* parent)
     : QObject(parent),
       flag(makeNumber(sheet, names.rule, names.flag, "Flag", parent)),

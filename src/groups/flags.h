@@ -7,6 +7,10 @@
 
 namespace quorvel::groups {
 
+/// A number box of a window: a change of it is one of the window.
+NumberBox* makeNumber(Sheet& sheet, NumberRule rule, const char* name, const char* spoken,
+                      QWidget* parent);
+
 /// Compares a flag with a value: "Flag", its number, an operator, the value. What it ticks is up to
 /// its owner, by `used`.
 class FlagTest : public QObject {

@@ -7,7 +7,6 @@
 #include <QKeyEvent>
 #include <QRegularExpressionValidator>
 
-#include "groups/sheet.h"
 #include "store/numbers.h"
 
 namespace quorvel::groups {
@@ -86,15 +85,6 @@ void NumberBox::focusOutEvent(QFocusEvent* event) {
     if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason) {
         mend();
     }
-}
-
-NumberBox* makeNumber(Sheet& sheet, NumberRule rule, const char* name, const char* spoken,
-                      QWidget* parent) {
-    auto* box = new NumberBox(rule, sheet.tools().beep, parent);
-    box->setObjectName(QString::fromLatin1(name));
-    box->setAccessibleName(QString::fromLatin1(spoken));
-    QObject::connect(box, &QLineEdit::textChanged, &sheet, &Sheet::touch);
-    return box;
 }
 
 }  // namespace quorvel::groups

@@ -8,8 +8,6 @@
 
 namespace quorvel::groups {
 
-class Sheet;
-
 /// What a number box takes.
 enum class NumberRule : std::uint8_t {
     flag,      ///< digits; a value outside 1 to 255 becomes 1 when the box is left
@@ -47,9 +45,5 @@ class NumberBox : public QLineEdit {
     std::function<void()> beep_;
     bool takingAway_ = false;
 };
-
-/// A number box of a window: a change of it is one of the window.
-NumberBox* makeNumber(Sheet& sheet, NumberRule rule, const char* name, const char* spoken,
-                      QWidget* parent);
 
 }  // namespace quorvel::groups

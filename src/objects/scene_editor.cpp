@@ -44,6 +44,10 @@ void alignWith(const QGridLayout& sounds, QGridLayout* grid) {
             }
         }
         grid->setColumnMinimumWidth(column, width);
+        // A column without anything would have no distance to the next one.
+        if (grid->itemAtPosition(0, column) == nullptr) {
+            grid->addItem(new QSpacerItem(width, 0), 0, column);
+        }
     }
 }
 
