@@ -89,6 +89,7 @@ int run(bool check) {
                                  .screenSize = [] { return QSize(1280, 800); },
                                  .random = [] { return 0.5; },
                                  .quit = [] {},
+                                 .beep = [] {},
                                  .makePreview = preview,
                                  .machineValue = quorvel::shell::readMachineValue,
                                  .programFolder = QCoreApplication::applicationDirPath(),

@@ -45,7 +45,7 @@ void SceneKeeper::LoadScene(int number) {
     Q_EMIT sceneLoading();
 }
 
-std::optional<store::RuntimeError> SceneKeeper::showPicture() {
+std::optional<store::RuntimeError> SceneKeeper::loadPicture() {
     const std::string& image = scene_.header(HeaderString::SceneImage);
     if (image.empty()) {
         view_.ClearSceneImage();
@@ -65,10 +65,18 @@ std::optional<store::RuntimeError> SceneKeeper::showPicture() {
 }
 
 void SceneKeeper::showScene() {
-    const auto failure = showPicture();
+    const auto failure = loadPicture();
     view_.ShowSceneObjects();
     hold_.reset();
     Q_EMIT sceneShown(project_.CurrentScene);
+    tellPicture(failure);
+}
+
+void SceneKeeper::ShowPicture() {
+    tellPicture(loadPicture());
+}
+
+void SceneKeeper::tellPicture(const std::optional<store::RuntimeError>& failure) {
     if (failure) {
         traps_.tellReadFailure(QStringLiteral("GetSceneImage"), *failure);
     }

@@ -41,6 +41,9 @@ class SceneKeeper : public QObject {
     /// cannot be shown is told when the objects have appeared.
     void showScene();
 
+    /// Shows the picture of the scene in memory, or none. One that cannot be shown is told.
+    void ShowPicture();
+
     /// Saves the current scene and shows scene `number`. The author stays where the current scene
     /// could not be written, for another reason than that the project is read-only, and where the
     /// other one could not be read; false then, and the author has been told.
@@ -66,7 +69,8 @@ class SceneKeeper : public QObject {
     bool arrive(int number, int wayBack = 0);
     bool writeNewScene(int number, NewScene mode);
     /// What went wrong with the scene's picture, if anything did.
-    std::optional<store::RuntimeError> showPicture();
+    std::optional<store::RuntimeError> loadPicture();
+    void tellPicture(const std::optional<store::RuntimeError>& failure);
 
     store::Project& project_;
     store::Scene& scene_;

@@ -207,6 +207,10 @@ void SceneView::redrawBorders() {
     }
 }
 
+void SceneView::followLinkTarget(store::LinkSide side) {
+    links_[static_cast<std::size_t>(side)]->setLeads(scene_.link(side).target != 0);
+}
+
 void SceneView::showLinkBorder(store::LinkSide side) {
     const auto n = static_cast<std::size_t>(side);
     linkBorders_[n]->surround(links_[n]->place());

@@ -91,6 +91,8 @@ class SceneView : public QWidget {
     /// The place of an edge link on the canvas. It reaches the scene in memory with the next save.
     [[nodiscard]] Place linkPlace(store::LinkSide side) const;
     void setLinkPlace(store::LinkSide side, const Place& place);
+    /// The edge link has got another target: its mark follows. Its place does not change.
+    void followLinkTarget(store::LinkSide side);
     /// Shows the border of one link, be borders on or off.
     void showLinkBorder(store::LinkSide side);
     void hideBorderOf(const SceneElement& element);

@@ -132,6 +132,15 @@ void Shell::loadGuide() {
 void Shell::loadActions() {
     actions_ = std::make_unique<canvas::ObjectActions>(canvas::ObjectActions::House{
         project_, scene_, main_->view(), *keeper_, surroundings_.boxes, *guide_});
+    editors_ = std::make_unique<SceneEditors>(groups::Tools{.project = project_,
+                                                            .scene = scene_,
+                                                            .boxes = surroundings_.boxes,
+                                                            .files = fileChoice_,
+                                                            .preview = *preview_,
+                                                            .pictures = pictures_,
+                                                            .lists = models_,
+                                                            .beep = surroundings_.beep},
+                                              scene_, main_->view(), *keeper_, *actions_, *guide_);
     const SidePanel& side = main_->side();
     connect(side.ObjAlert, &QPushButton::clicked, this, [this] { actions_->ObjAlert_Click(); });
     connect(side.ScnAlert, &QPushButton::clicked, this, [this] { actions_->ScnAlert_Click(); });

@@ -26,6 +26,7 @@
 #include "shell/player_keeper.h"
 #include "shell/project_creator.h"
 #include "shell/project_loader.h"
+#include "shell/scene_editors.h"
 #include "shell/surroundings.h"
 #include "store/project.h"
 #include "store/scene.h"
@@ -131,6 +132,7 @@ class Shell : public QObject {
     std::unique_ptr<AuthorGuide> guide_;
     std::unique_ptr<canvas::SceneKeeper> keeper_;
     std::unique_ptr<canvas::ObjectActions> actions_;
+    std::unique_ptr<SceneEditors> editors_;
     std::unique_ptr<Navigation> navigation_;
     std::unique_ptr<ProjectLoader> loader_;
     std::unique_ptr<ProjectCreator> creator_;

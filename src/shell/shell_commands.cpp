@@ -20,6 +20,7 @@ void Shell::answerCommands() {
         {Command::exitProgram, [this] { ExitProgram(); }},
         {Command::projectSecurity, [this] { showSecurity(); }},
         {Command::addScene, [this] { showAddScene(); }},
+        {Command::sceneProperties, [this] { editors_->showSceneProperties(); }},
         {Command::insertObject, [this] { insertObject(); }},
         {Command::runPlayer, [this] { player_->RunPlayer(PlayerKeeper::AskedBy::menu); }},
         {Command::runPlayerByButton,

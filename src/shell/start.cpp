@@ -59,6 +59,7 @@ int runEditor(int argc, char** argv) {
                  .screenSize = [] { return QGuiApplication::primaryScreen()->size(); },
                  .random = [] { return QRandomGenerator::global()->generateDouble(); },
                  .quit = [] { QCoreApplication::quit(); },
+                 .beep = [] { QApplication::beep(); },
                  .makePreview = makePreview,
                  .machineValue = readMachineValue,
                  .programFolder = QCoreApplication::applicationDirPath(),

@@ -31,6 +31,7 @@ struct Surroundings {
     std::function<QSize()> screenSize;  ///< in pixels
     std::function<double()> random;     ///< from 0 up to but not including 1
     std::function<void()> quit;         ///< ends the event loop
+    std::function<void()> beep;         ///< the desktop's sound for a key that is not taken
     /// Makes the preview of a project, with its movies in the middle of a widget.
     std::function<PreviewParts(const store::Project&, QWidget* movieArea)> makePreview;
     MachineValue machineValue;  ///< reads the registry of the machine

@@ -140,6 +140,7 @@ TEST_F(About, AFailureInTheHelpMenuIsToldAndTheEditorGoesOn) {
                                                            .screenSize = around.screenSize,
                                                            .random = around.random,
                                                            .quit = around.quit,
+                                                           .beep = around.beep,
                                                            .makePreview = around.makePreview,
                                                            .machineValue = around.machineValue,
                                                            .programFolder = around.programFolder,

@@ -9,6 +9,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTextBrowser>
 
 #include "forms/events.h"
@@ -37,7 +38,19 @@ class AllWindows : public ShellFixture, public ::testing::WithParamInterface<Loo
     ~AllWindows() override { QApplication::setFont(letters); }
     const QFont letters = QApplication::font();
 
+    /// Checks a window on each of its pages.
     void check(QWidget& window, const QString& name) {
+        auto* pages = window.findChild<QTabBar*>(QStringLiteral("Pages"));
+        if (pages == nullptr) {
+            checkPage(window, name);
+            return;
+        }
+        for (int page = 0; page < pages->count(); ++page) {
+            pages->setCurrentIndex(page);
+            checkPage(window, QStringLiteral("%1-%2").arg(name).arg(page + 1));
+        }
+    }
+    void checkPage(QWidget& window, const QString& name) {
         SCOPED_TRACE(name.toStdString());
         forms::letEventsRun();
         picture(window, name);
@@ -251,6 +264,85 @@ TEST_P(AllWindows, SizingALink) {
         QStringLiteral("ResizeD"));
 }
 
+/// The windows of a scene with everything in it: that of the sample game.
+class AllEditors : public AllWindows {
+  protected:
+    AllEditors() {
+        std::filesystem::copy(QUORVEL_SAMPLE_GAME, projects / "Lantern",
+                              std::filesystem::copy_options::recursive);
+        start({text(projects / "Lantern" / "Lantern.qvl")});
+    }
+    void checkEditor(const QString& name, const std::function<void()>& routine) {
+        withWindow(name, routine, [&](QWidget& window) {
+            check(window, name);
+            window.close();
+        });
+    }
+};
+
+TEST_P(AllEditors, Link) {
+    shell->scene().LinkUp = {.pointer = 1, .target = 1};
+    shell->actions().PopupObject = 2;
+    checkEditor(QStringLiteral("directionprop"), [this] {
+        Q_EMIT shell->actions().popups().chosen(canvas::PopupMenu::link,
+                                                canvas::PopupAction::properties);
+    });
+}
+
+/// A HotSpot in slot 20 with something in each of its fields.
+void fillHotSpot(store::ObjectSlot& slot) {
+    using store::HotSpot;
+    store::ResetSlot(slot, store::ObjectType::hotSpot, 300, 200);
+    store::word(slot, HotSpot::Image) = "Lever.gif";
+    store::word(slot, HotSpot::Sound) = "Waves.wav";
+    store::word(slot, HotSpot::SuccessSound) = "Click.wav";
+    store::number(slot, HotSpot::SoundVolume) = -650;
+    store::number(slot, HotSpot::SoundPan) = -1500;
+    store::number(slot, HotSpot::TargetScene) = 2;
+    store::number(slot, HotSpot::NeedsItem) = 1;
+    store::number(slot, HotSpot::NeededItem) = 1;
+    store::number(slot, HotSpot::Visibility) = 2;
+    store::number(slot, HotSpot::VisibleValue) = -32768;
+}
+
+TEST_P(AllEditors, HotSpot) {
+    fillHotSpot(shell->scene().slot(20));
+    shell->actions().PopupObject = 20;
+    checkEditor(QStringLiteral("linkPropf"), [this] { shell->actions().ShowObjectProps(1); });
+}
+
+TEST_P(AllEditors, FreshQuickSpot) {
+    store::ObjectSlot& slot = shell->scene().slot(20);
+    store::ResetSlot(slot, store::ObjectType::hotSpot, 300, 200);
+    store::number(slot, store::HotSpot::QuickSpot) = 1;
+    store::word(slot, store::HotSpot::QuickHeight) = "40";
+    store::word(slot, store::HotSpot::QuickWidth) = "60";
+    shell->actions().PopupObject = 20;
+    withWindow(
+        QStringLiteral("linkPropf"), [this] { shell->actions().ShowObjectProps(1); },
+        [this](QWidget& window) {
+            check(window, QStringLiteral("linkPropf-quick"));
+            window.close();
+        });
+}
+
+TEST_P(AllEditors, Scene) {
+    using store::HeaderInt;
+    using store::HeaderString;
+    store::Scene& scene = shell->scene();
+    scene.header(HeaderInt::SceneCheckFlagOn) = 1;
+    scene.header(HeaderInt::SceneCheckFlagId) = 255;
+    scene.header(HeaderInt::SceneCheckFlagTarget) = 2;
+    scene.header(HeaderString::SceneSoundtrack) = "KeepWaltz.mid";
+    scene.header(HeaderString::SceneEnterMovie) = "Beacon.avi";
+    scene.header(HeaderInt::SceneEnterMovieVolume) = 60;
+    scene.header(HeaderString::SceneSound1File) = "Bell.wav";
+    scene.header(HeaderString::SceneSound3File) = "Waves.wav";
+    scene.header(HeaderInt::SceneSound3Volume) = -900;
+    checkEditor(QStringLiteral("sceneimage"),
+                [this] { action(QStringLiteral("scnmen(1)")).trigger(); });
+}
+
 TEST_P(AllWindows, Boxes) {
     const std::vector<std::pair<const char*, Box>> boxesToShow = {
         {"Box-plain", {.text = QStringLiteral("Saved folder exists")}},
@@ -274,21 +366,21 @@ TEST_P(AllWindows, Boxes) {
           .icon = Box::Icon::exclamation}},
     };
     forms::MessageBoxes real;
-    for (const auto& [name, box] : boxesToShow) {
+    for (const auto& one : boxesToShow) {
         withWindow(
-            QStringLiteral("Box"), [&] { real.show(box); },
+            QStringLiteral("Box"), [&] { real.show(one.second); },
             [&](QWidget& window) {
-                check(window, QString::fromLatin1(name));
+                check(window, QString::fromLatin1(one.first));
                 window.close();
             });
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Looks, AllWindows, ::testing::Values(Look::light, Look::dark),
-                         [](const auto& one) {
-                             return one.param == Look::dark ? std::string("Dark")
-                                                            : std::string("Light");
-                         });
+std::string nameOfLook(const ::testing::TestParamInfo<Look>& one) {
+    return one.param == Look::dark ? "Dark" : "Light";
+}
+INSTANTIATE_TEST_SUITE_P(Looks, AllWindows, ::testing::Values(Look::light, Look::dark), nameOfLook);
+INSTANTIATE_TEST_SUITE_P(Looks, AllEditors, ::testing::Values(Look::light, Look::dark), nameOfLook);
 
 /// The same windows in a process of its own, with `variable` set.
 void expectPassWith(const char* variable, const char* value) {
@@ -307,7 +399,7 @@ void expectPassWith(const char* variable, const char* value) {
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("--gtest_filter=Looks/AllWindows.*")});
+                  {QStringLiteral("--gtest_filter=Looks/All*")});
     ASSERT_TRUE(process.waitForFinished(100000));
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(process.exitCode(), 0) << process.readAll().toStdString();

@@ -127,7 +127,7 @@ TEST_F(CanvasWork, TheMenuOfAHotSpotJumpsToItsScene) {
     auto& menus = shell->actions().popups();
     auto& jump = control<QAction>(menus, QStringLiteral("JumpToLink"));
     EXPECT_EQ(jump.text(), QStringLiteral("Jump To <2 (Hall)>"));
-    EXPECT_FALSE(control<QAction>(menus, QStringLiteral("linkprops")).isEnabled());
+    EXPECT_TRUE(control<QAction>(menus, QStringLiteral("linkprops")).isEnabled());
     jump.trigger();
     EXPECT_EQ(shell->project().CurrentScene, 2);
 }

@@ -215,10 +215,10 @@ TEST_F(Commands, WithoutAProjectOnlyWhatNeedsNoneCanBeUsed) {
 }
 
 const std::set<std::string> kEnabledWithAProject = {
-    "Filemen(1)",  "Filemen(2)",  "Filemen(3)",   "Filemen(9)",   "Filemen(14)",  "projmen(1)",
-    "projmen(12)", "scnmen(3)",   "runmen(0)",    "Toolbar1(1)",  "Toolbar1(2)",  "Toolbar1(5)",
-    "Toolbar1(6)", "Toolbar1(7)", "Toolbar1(10)", "Toolbar1(23)", "Toolbar1(25)", "options(1)",
-    "helpmen(1)",  "helpmen(3)",  "helpmen(5)",   "helpmen(9)"};
+    "Filemen(1)",   "Filemen(2)",  "Filemen(3)",  "Filemen(9)",   "Filemen(14)",  "projmen(1)",
+    "projmen(12)",  "scnmen(1)",   "scnmen(3)",   "runmen(0)",    "Toolbar1(1)",  "Toolbar1(2)",
+    "Toolbar1(5)",  "Toolbar1(6)", "Toolbar1(7)", "Toolbar1(10)", "Toolbar1(22)", "Toolbar1(23)",
+    "Toolbar1(25)", "options(1)",  "helpmen(1)",  "helpmen(3)",   "helpmen(5)",   "helpmen(9)"};
 
 TEST_F(Commands, AProjectEnablesItsEntriesAndClosingTakesThemBack) {
     const TestProject files = ProjectBuilder().build(projects.path());

@@ -169,6 +169,18 @@ const std::vector<WindowWithHelp>& windowsWithHelp() {
              shell.actions().dragging().CurrentLink = 2;
              shell.actions().showResize();
          }},
+        {"sceneimage", "scnmen(1)", "scene-properties.html"},
+        {"directionprop", "", "link-properties.html",
+         [](shell::Shell& shell) {
+             shell.actions().PopupObject = 2;
+             Q_EMIT shell.actions().popups().chosen(canvas::PopupMenu::link,
+                                                    canvas::PopupAction::properties);
+         }},
+        {"linkPropf", "", "hotspot.html",
+         [](shell::Shell& shell) {
+             shell.actions().InsertObject(store::ObjectType::hotSpot, 1);
+             shell.actions().ShowObjectProps(1);
+         }},
     };
     return all;
 }

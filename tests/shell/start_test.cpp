@@ -233,6 +233,7 @@ TEST_F(Start, ASecondEditorShowsNothingAndActivatesTheFirst) {
                         .screenSize = [] { return QSize(640, 480); },
                         .random = [] { return 0.5; },
                         .quit = [] {},
+                        .beep = [] {},
                         .makePreview = {},
                         .machineValue = {},
                         .programFolder = QCoreApplication::applicationDirPath(),

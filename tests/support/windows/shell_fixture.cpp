@@ -29,6 +29,7 @@ shell::Surroundings ShellFixture::surroundings(const QStringList& arguments, QSi
         .screenSize = [screen] { return screen; },
         .random = [this] { return nextRandom; },
         .quit = [this] { ++quits; },
+        .beep = [this] { ++beeps; },
         .makePreview =
             [this](const store::Project&, QWidget*) {
                 auto made = std::make_unique<RecordedPreview>();

@@ -48,6 +48,7 @@ class ShellFixture : public ::testing::Test {
     QMap<QString, QString> machineValues;  ///< by key, backslash and name
     double nextRandom = 0.5;
     int quits = 0;
+    int beeps = 0;
     /// What the editor previews; it belongs to the shell.
     RecordedPreview* preview = nullptr;
     std::unique_ptr<shell::Shell> shell;

@@ -18,6 +18,7 @@
 #include <QToolButton>
 
 #include "forms/wrap_button.h"
+#include "groups/controls.h"
 
 namespace quorvel::test {
 
@@ -63,7 +64,8 @@ QSize roomForText(const QWidget& widget) {
         }
         return label->minimumSizeHint();
     }
-    if (qobject_cast<const forms::WrapButton*>(&widget) != nullptr) {
+    if (qobject_cast<const forms::WrapButton*>(&widget) != nullptr ||
+        qobject_cast<const groups::WrapCheck*>(&widget) != nullptr) {
         return {widget.minimumSizeHint().width(), widget.heightForWidth(widget.width())};
     }
     if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {

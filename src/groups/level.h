@@ -1,0 +1,47 @@
+/// A volume or a pan: a slider and the box that shows its value.
+#pragma once
+
+#include <QLineEdit>
+#include <QObject>
+#include <QSlider>
+
+namespace quorvel::groups {
+
+/// The range of a level and how it is told.
+struct LevelRange {
+    int lowest;
+    int highest;
+    int tick;
+    const char* toolTip;
+};
+inline constexpr LevelRange kWavVolume{-4000, 0, 160, "-4000 to 0 (Full Volume)"};
+inline constexpr LevelRange kMovieVolume{0, 100, 5, "0 to 100 (Full Volume)"};
+inline constexpr LevelRange kPan{-4000, 4000, 160, "-4000 to 4000"};
+
+/// Slider and box are made here and put into a layout by whoever has the level.
+class Level : public QObject {
+    Q_OBJECT
+  public:
+    Level(const QString& slider, const QString& box, const QString& spoken, const LevelRange& range,
+          QWidget* parent);
+
+    [[nodiscard]] QSlider* slider() const { return slider_; }
+    [[nodiscard]] QLineEdit* box() const { return box_; }
+
+    /// The value that the box shows.
+    [[nodiscard]] int value() const;
+    /// The nearest value of the range.
+    void setValue(int value) { slider_->setValue(value); }
+    void setRange(const LevelRange& range);
+    void setEnabled(bool enabled);
+
+  Q_SIGNALS:
+    /// The slider has moved, by whom ever.
+    void moved(int value);
+
+  private:
+    QSlider* slider_;
+    QLineEdit* box_;
+};
+
+}  // namespace quorvel::groups

@@ -1,0 +1,213 @@
+#include "groups/sound_spec.h"
+
+#include <QGridLayout>
+
+#include "forms/form.h"
+#include "groups/movie_row.h"
+
+namespace quorvel::groups {
+namespace {
+
+QString element(const char* name, int k) {
+    return forms::elementName(QString::fromLatin1(name), k);
+}
+
+}  // namespace
+
+SoundSpec::SoundSpec(Sheet& sheet, const Names& names, QWidget* parent)
+    : QObject(parent),
+      sheet_(sheet),
+      k_(names.k),
+      play_(names.play),
+      alone_(names.alone),
+      movies_(names.movies) {
+    if (*names.frame == '\0') {
+        build(names, parent);
+    } else {
+        const Frame made = makeFrame(names.frame, names.frameCaption, parent);
+        frame = made.box;
+        build(names, frame);
+        fill(made.column);
+    }
+    followFile();
+    followAuthor();
+}
+
+void SoundSpec::build(const Names& names, QWidget* parent) {
+    const auto spoken = [&names](const char* what) {
+        return QStringLiteral("%1, %2").arg(QString::fromLatin1(names.spoken),
+                                            QString::fromLatin1(what));
+    };
+    label_ = makeLabel(names.label, parent);
+    file = new FileBox(element("SE", k_), spoken("file"), parent);
+    locate_ = makeSmallButton(element("LSE", k_), "...", spoken("locate"), parent);
+    locate_->setToolTip(QStringLiteral("Locate"));
+    playButton_ = makeSmallButton(element("Playwav", k_), ">", spoken("play"), parent);
+    playButton_->setToolTip(QString::fromLatin1(names.playTip));
+    if (names.hasChannel) {
+        channelLabel_ = makeLabel("Wav Ch>", parent);
+        channel = new ChannelList(element("sChannelNum", k_), parent);
+        channelLabel_->setBuddy(channel);
+    }
+    volumeLabel_ = makeLabel("Vol >", parent);
+    volume =
+        new Level(element("Hscroll1", k_), element("SV", k_), spoken("volume"), kWavVolume, parent);
+    panLabel_ = makeLabel("Pan >", parent);
+    pan = new Level(element("Hscroll2", k_), element("SP", k_), spoken("pan"), kPan, parent);
+    panButtons_ = {panButton("HLeft", "L", "Hard-Left", kPan.lowest),
+                   panButton("Centr", "C", "Center", 0),
+                   panButton("HRight", "R", "Hard-Right", kPan.highest)};
+}
+
+QPushButton* SoundSpec::panButton(const char* name, const char* caption, const char* spoken,
+                                  int value) {
+    auto* button = makeSmallButton(element(name, k_), caption, QString::fromLatin1(spoken),
+                                   playButton_->parentWidget());
+    button->setToolTip(QString::fromLatin1(spoken));
+    connect(button, &QPushButton::clicked, this, [this, value] { pan->setValue(value); });
+    return button;
+}
+
+void SoundSpec::followAuthor() {
+    if (channel != nullptr) {
+        connect(channel, &QComboBox::activated, &sheet_, &Sheet::touch);
+    }
+    connect(file, &QLineEdit::textChanged, this, &SoundSpec::followFile);
+    connect(file, &FileBox::doubleClicked, this, [this] {
+        file->clear();
+        sheet_.touch();
+        Q_EMIT fileCleared();
+    });
+    connect(locate_, &QPushButton::clicked, this, &SoundSpec::locate);
+    connect(playButton_, &QPushButton::clicked, this, &SoundSpec::Playwav_Click);
+    connect(&sheet_, &Sheet::closing, this, &SoundSpec::silence);
+    connect(volume, &Level::moved, this, [this](int value) {
+        sheet_.touch();
+        if (isHeard() && isWav()) {
+            sheet_.tools().preview.SetWavVolume(k_, value);
+        } else if (movies_ != nullptr && movies_->isPlaying(playButton_)) {
+            sheet_.tools().preview.SetMovieVolume(value);
+        }
+    });
+    connect(pan, &Level::moved, this, [this](int value) {
+        sheet_.touch();
+        if (isHeard() && isWav()) {
+            sheet_.tools().preview.SetWavPan(k_, value);
+        }
+    });
+}
+
+bool SoundSpec::isWav() const {
+    return file->text().right(3).toLower() == QStringLiteral("wav");
+}
+
+/// Whether the preview follows: of a sound that plays once nobody knows whether it still plays.
+bool SoundSpec::isHeard() const {
+    return !sheet_.isFilling() && (play_ == Play::once || playButton_->text() == kPlaying);
+}
+
+void SoundSpec::followFile() {
+    const bool any = !file->text().isEmpty();
+    const bool wav = any && isWav();
+    if (!sheet_.isFilling()) {
+        silence();
+    }
+    playButton_->setEnabled(any);
+    volume->setRange(any && !wav ? kMovieVolume : kWavVolume);
+    if (!any) {
+        volume->setValue(0);
+        pan->setValue(0);
+    }
+    volume->slider()->setEnabled(any);
+    pan->slider()->setEnabled(wav);
+    for (QPushButton* button : panButtons_) {
+        button->setEnabled(wav);
+    }
+    if (channel != nullptr) {
+        channel->setEnabled(wav);
+    }
+}
+
+/// What is heard of this sound stops.
+void SoundSpec::silence() {
+    sheet_.tools().preview.StopWav(k_);
+    if (movies_ != nullptr && movies_->isPlaying(playButton_)) {
+        movies_->stop();
+    }
+    playButton_->setText(kIdle);
+}
+
+void SoundSpec::locate() {
+    const auto chosen = sheet_.tools().files.choose(
+        {.filter = movies_ != nullptr ? forms::filters::kSoundsAndMovies : forms::filters::kSounds,
+         .current = file->text()});
+    if (chosen) {
+        file->setText(*chosen);
+        sheet_.touch();
+        Q_EMIT fileChosen();
+    }
+}
+
+void SoundSpec::Playwav_Click() {
+    const QString name = file->text();
+    forms::Preview& preview = sheet_.tools().preview;
+    if (name.isEmpty()) {
+        return;
+    }
+    if (movies_ != nullptr && !isWav()) {
+        movies_->toggle(playButton_, name, volume->value());
+        return;
+    }
+    if (play_ == Play::once) {
+        preview.StopAllWavs();
+        preview.PlayWav(name, volume->value(), pan->value(), k_);
+        return;
+    }
+    if (playButton_->text() == kPlaying) {
+        silence();
+        return;
+    }
+    if (alone_) {
+        preview.StopAllWavs();
+    }
+    preview.PlayWav(name, volume->value(), pan->value(), k_, true);
+    playButton_->setText(kPlaying);
+}
+
+void SoundSpec::fill(QVBoxLayout* column) {
+    auto* first = new QHBoxLayout;
+    first->addWidget(label_);
+    first->addWidget(file, 1);
+    first->addWidget(locate_);
+    first->addWidget(playButton_);
+    if (channel != nullptr) {
+        first->addSpacing(forms::kFormSpacing);
+        first->addWidget(channelLabel_);
+        first->addWidget(channel);
+    }
+    column->addLayout(first);
+    auto* second = new QHBoxLayout;
+    second->addWidget(volumeLabel_);
+    second->addWidget(volume->slider(), 1);
+    second->addWidget(volume->box());
+    second->addSpacing(forms::kFormSpacing);
+    second->addWidget(panLabel_);
+    second->addWidget(pan->slider(), 1);
+    second->addWidget(pan->box());
+    for (QPushButton* button : panButtons_) {
+        second->addWidget(button);
+    }
+    column->addLayout(second);
+}
+
+void SoundSpec::addTo(QGridLayout* grid, int row) {
+    int column = 0;
+    for (QWidget* widget : std::initializer_list<QWidget*>{
+             label_, file, locate_, playButton_, volumeLabel_, volume->slider(), volume->box(),
+             panLabel_, pan->slider(), pan->box(), panButtons_[0], panButtons_[1],
+             panButtons_[2]}) {
+        grid->addWidget(widget, row, column++);
+    }
+}
+
+}  // namespace quorvel::groups

@@ -1,0 +1,135 @@
+#include "groups/soundtrack_row.h"
+
+#include <QGridLayout>
+
+namespace quorvel::groups {
+namespace {
+
+QString name(const char* text) {
+    return QString::fromLatin1(text);
+}
+
+}  // namespace
+
+SoundtrackRow::SoundtrackRow(Sheet& sheet, const Names& names, QWidget* parent)
+    : QObject(parent),
+      file(new FileBox(name(names.file), QStringLiteral("Soundtrack, file"), parent)),
+      volume(new Level(name(names.slider), name(names.value), QStringLiteral("Soundtrack, volume"),
+                       kWavVolume, parent)),
+      sheet_(sheet),
+      locate_(
+          makeSmallButton(name(names.locate), "...", QStringLiteral("Soundtrack, locate"), parent)),
+      playButton_(
+          makeSmallButton(name(names.play), ">", QStringLiteral("Soundtrack, play"), parent)),
+      label_(makeLabel(names.label, parent)),
+      volumeLabel_(makeLabel("Vol >", parent)) {
+    locate_->setToolTip(QStringLiteral("Locate"));
+    playButton_->setToolTip(QStringLiteral("Play/ Stop"));
+    followFile();
+    connect(file, &QLineEdit::textChanged, this, &SoundtrackRow::followFile);
+    connect(file, &FileBox::doubleClicked, this, &SoundtrackRow::cycle);
+    connect(locate_, &QPushButton::clicked, this, &SoundtrackRow::locate);
+    connect(playButton_, &QPushButton::clicked, this, [this] {
+        if (playButton_->text() == kPlaying) {
+            stop();
+        } else {
+            play();
+        }
+    });
+    connect(&sheet, &Sheet::closing, this, &SoundtrackRow::stop);
+    connect(volume, &Level::moved, this, [this](int value) {
+        sheet_.touch();
+        if (playButton_->text() != kPlaying) {
+            return;
+        }
+        if (kind() == Kind::mp3) {
+            sheet_.tools().preview.SetMp3Volume(value);
+        } else if (kind() == Kind::wav) {
+            sheet_.tools().preview.SetWavVolume(kChannel, value);
+        }
+    });
+    const forms::Preview& preview = sheet.tools().preview;
+    const auto idle = [this] { playButton_->setText(kIdle); };
+    connect(&preview, &forms::Preview::mp3Ended, this, idle);
+    connect(&preview, &forms::Preview::midiEnded, this, idle);
+    connect(&preview, &forms::Preview::wavEnded, this, [idle](int channel) {
+        if (channel == kChannel) {
+            idle();
+        }
+    });
+}
+
+SoundtrackRow::Kind SoundtrackRow::kind() const {
+    const QString ending = file->text().right(3).toLower();
+    if (ending == QStringLiteral("mp3")) {
+        return Kind::mp3;
+    }
+    if (ending == QStringLiteral("wav")) {
+        return Kind::wav;
+    }
+    return ending == QStringLiteral("mid") ? Kind::midi : Kind::none;
+}
+
+void SoundtrackRow::followFile() {
+    if (!sheet_.isFilling()) {
+        stop();
+        sheet_.tools().preview.StopAllWavs();
+    }
+    const bool any = !file->text().isEmpty() && file->text() != kStop;
+    playButton_->setEnabled(any);
+    volume->setValue(0);
+    volume->setEnabled(any);
+}
+
+void SoundtrackRow::cycle() {
+    file->setText(file->text().isEmpty() ? kStop : QString());
+    sheet_.touch();
+    Q_EMIT changed(!file->text().isEmpty());
+}
+
+void SoundtrackRow::locate() {
+    const auto chosen =
+        sheet_.tools().files.choose({.filter = forms::filters::kSoundtracks,
+                                     .current = file->text() == kStop ? QString() : file->text()});
+    if (chosen) {
+        file->setText(*chosen);
+        sheet_.touch();
+        Q_EMIT changed(true);
+    }
+}
+
+void SoundtrackRow::play() {
+    forms::Preview& preview = sheet_.tools().preview;
+    switch (kind()) {
+        case Kind::mp3:
+            preview.PlayMp3(file->text(), volume->value(), 0);
+            break;
+        case Kind::wav:
+            preview.PlayWav(file->text(), volume->value(), 0, kChannel);
+            break;
+        case Kind::midi:
+            preview.PlayMidi(file->text());
+            break;
+        case Kind::none:
+            return;
+    }
+    playButton_->setText(kPlaying);
+}
+
+void SoundtrackRow::stop() {
+    forms::Preview& preview = sheet_.tools().preview;
+    preview.StopMp3();
+    preview.StopMidi();
+    preview.StopWav(kChannel);
+    playButton_->setText(kIdle);
+}
+
+void SoundtrackRow::addTo(QGridLayout* grid, int row) {
+    int column = 0;
+    for (QWidget* widget : std::initializer_list<QWidget*>{
+             label_, file, locate_, playButton_, volumeLabel_, volume->slider(), volume->box()}) {
+        grid->addWidget(widget, row, column++);
+    }
+}
+
+}  // namespace quorvel::groups
