@@ -59,8 +59,7 @@ TEST_F(Security, TheWindowShowsItsTexts) {
                   QStringLiteral("For details on what Project Security is, please consult the "
                                  "Help File."));
         EXPECT_TRUE(control<QPushButton>(window, QStringLiteral("Command1")).isDefault());
-        EXPECT_FALSE(control<QPushButton>(window, QStringLiteral("Command2")).isEnabled())
-            << "there is no help yet";
+        EXPECT_TRUE(control<QPushButton>(window, QStringLiteral("Command2")).isEnabled());
         EXPECT_TRUE(window.isModal());
         window.close();
     });

@@ -22,7 +22,7 @@ namespace {
 using forms::HelpPage;
 
 QDir pagesOfTheSource() {
-    return QDir(qEnvironmentVariable("QUORVEL_SOURCE_DIR") + QStringLiteral("/help"));
+    return QDir(QStringLiteral(QUORVEL_HELP_PAGES));
 }
 
 QString read(const QString& path) {
@@ -64,7 +64,9 @@ TEST(HelpPages, EachTopicHasItsPageWithItsTitle) {
 }
 
 TEST(HelpPages, EachFileBelongsToATopic) {
-    for (const QString& file : pagesOfTheSource().entryList({QStringLiteral("*.html")})) {
+    const QStringList files = pagesOfTheSource().entryList({QStringLiteral("*.html")});
+    EXPECT_EQ(static_cast<std::size_t>(files.size()), forms::helpPages().size());
+    for (const QString& file : files) {
         EXPECT_NE(forms::helpPage(file), nullptr) << file.toStdString();
     }
 }
@@ -120,8 +122,9 @@ TEST(HelpPages, EachPictureIsThereFitsAndIsUsed) {
 TEST(HelpPages, AllThatIsWrittenIsDeliveredBesideTheProgram) {
     const QDir delivered(QCoreApplication::applicationDirPath() + QStringLiteral("/help"));
     for (const QString& folder : {QString(), QStringLiteral("pictures/")}) {
-        for (const QString& file :
-             QDir(pagesOfTheSource().filePath(folder)).entryList(QDir::Files)) {
+        const QStringList files = QDir(pagesOfTheSource().filePath(folder)).entryList(QDir::Files);
+        EXPECT_FALSE(files.isEmpty());
+        for (const QString& file : files) {
             const QString name = folder + file;
             QFile ours(pagesOfTheSource().filePath(name));
             QFile theirs(delivered.filePath(name));

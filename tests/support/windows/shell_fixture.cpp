@@ -1,6 +1,7 @@
 #include "support/windows/shell_fixture.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QSettings>
 
 #include "store/paths.h"
@@ -18,7 +19,10 @@ ShellFixture::ShellFixture() {
 }
 
 void ShellFixture::forgetSettings() {
-    QSettings(QStringLiteral("TessaroonWorks"), QStringLiteral("Quorvel")).clear();
+    QSettings values(QStringLiteral("TessaroonWorks"), QStringLiteral("Quorvel"));
+    values.clear();
+    values.sync();
+    QFile::remove(values.fileName());
 }
 
 shell::Surroundings ShellFixture::surroundings(const QStringList& arguments, QSize screen) {
