@@ -1,14 +1,9 @@
 // The road of a newcomer, through the windows and with the real player on a virtual screen: a new
 // project, a second scene, pictures, a link, a HotSpot, a test run, closing, opening.
-#include <QComboBox>
 #include <QDir>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 
-#include "shell/canvas_author.h"
+#include "objects/editor_author.h"
 #include "store/objects.h"
-#include "support/gif_bytes.h"
 #include "support/windows/virtual_screen.h"
 
 #ifndef _WIN32
@@ -22,13 +17,9 @@ constexpr std::uint32_t kRed = 0xC02020;
 constexpr std::uint32_t kGreen = 0x20A040;
 constexpr QSize kScreenSize(1000, 700);
 
-class NewcomerRoad : public CanvasAuthor {
+class NewcomerRoad : public EditorAuthor {
   protected:
     ~NewcomerRoad() override { endPlayer(); }
-
-    static QPushButton& button(const QWidget& window, const char* name) {
-        return control<QPushButton>(window, QString::fromLatin1(name));
-    }
 
     // What the newcomer does, a step each.
     void makeProject(const char* name) {
@@ -36,45 +27,59 @@ class NewcomerRoad : public CanvasAuthor {
             QStringLiteral("NewProject"),
             [this] { action(QStringLiteral("Filemen(1)")).trigger(); },
             [&](QWidget& window) {
+                const Hand hand(window);
                 dialogs.choice = text(projects.path()) + QLatin1Char('/');
-                button(window, "Command1").click();
-                control<QLineEdit>(window, QStringLiteral("Text2"))
-                    .setText(QString::fromLatin1(name));
-                button(window, "Command2").click();
+                hand.click("Command1");
+                hand.box("Text2").setText(QString::fromLatin1(name));
+                hand.click("Command2");
             });
     }
     void addScene() {
         withWindow(
             QStringLiteral("NewScenefrm"),
             [this] { action(QStringLiteral("projmen(1)")).trigger(); },
-            [&](QWidget& window) { button(window, "Command3").click(); });
+            [](QWidget& window) { Hand(window).click("Command3"); });
     }
+    /// Gives the scene a picture that lies somewhere on the author's disk.
     void setPicture(const char* file, std::uint32_t colour) {
-        writeBytes(projects / ("resource/gfx/" + std::string(file)), bmpBytes(700, 475, colour));
-        shell->scene().header(store::HeaderString::SceneImage) = file;
+        writeBytes(pictures / file, bmpBytes(700, 475, colour));
+        editScene([&](const Hand& hand) {
+            dialogs.choice = text(pictures / file);
+            hand.click("Command3");
+            hand.click("Command4");
+        });
     }
-    void linkTo(store::LinkSide side, std::int16_t scene) {
-        store::EdgeLink& link = shell->scene().link(side);
-        link.target = scene;
-        link.pointer = 1;
+    void linkTo(int side, int scene) {
+        editLink(side, [&](const Hand& hand) {
+            hand.pick("combo2", scene);
+            hand.click("Command1");
+        });
     }
-    void insertHotSpot() {
+    /// Inserts a HotSpot in the upper left corner and makes it a rectangle that leads to a scene.
+    void insertHotSpot(int width, int height, int scene) {
         withWindow(
-            QStringLiteral("newlink"), [this] { action(QStringLiteral("scnmen(3)")).trigger(); },
-            [](QWidget& window) {
-                control<QRadioButton>(window, QStringLiteral("Option1(1)")).click();
-                button(window, "Command3").click();
+            QStringLiteral("linkPropf"),
+            [this] {
+                withWindow(
+                    QStringLiteral("newlink"),
+                    [this] { action(QStringLiteral("scnmen(3)")).trigger(); },
+                    [](QWidget& window) {
+                        Hand(window).click("Option1(1)");
+                        Hand(window).click("Command3");
+                    });
+            },
+            [&](QWidget& window) {
+                const Hand hand(window);
+                hand.click("Option4(1)");
+                hand.type("Text2(0)", QString::number(height));
+                hand.type("Text2(1)", QString::number(width));
+                hand.pick("LnkScn", scene);
+                hand.click("Command6");
             });
     }
-    void makeQuickSpot(int k, int width, int height, std::int16_t scene) {
-        store::ObjectSlot& spot = slot(k);
-        store::number(spot, store::HotSpot::QuickSpot) = 1;
-        store::word(spot, store::HotSpot::QuickWidth) = std::to_string(width);
-        store::word(spot, store::HotSpot::QuickHeight) = std::to_string(height);
-        store::number(spot, store::HotSpot::TargetScene) = scene;
-        main().view().ShowObject(k);
+    void goTo(const char* arrow) {
+        control<QPushButton>(main(), QString::fromLatin1(arrow)).click();
     }
-    void goBack() { button(main(), "Command5").click(); }
 
     /// The player that a test run starts is a real one on `screen`.
     void playOn(const VirtualScreen& screen) {
@@ -102,6 +107,7 @@ class NewcomerRoad : public CanvasAuthor {
         EXPECT_TRUE(image.save(folder.filePath(QString::fromLatin1(name))));
     }
 
+    TempFolder pictures;
     std::unique_ptr<QProcess> player_;
 };
 
@@ -113,17 +119,21 @@ TEST_F(NewcomerRoad, FromNothingToAGameThatRuns) {
     playOn(screen);
     start();
 
+    shell->settings().WrongFolder = 1;  // copy what lies elsewhere
+
     makeProject("First");
     ASSERT_TRUE(shell->project().ProjectOpen);
     setPicture("red.bmp", kRed);
-    linkTo(store::LinkSide::right, 2);
     addScene();
     EXPECT_EQ(shell->project().CurrentScene, 2);
     setPicture("green.bmp", kGreen);
-    insertHotSpot();
-    makeQuickSpot(1, 100, 80, 1);
+    insertHotSpot(100, 80, 1);
     EXPECT_EQ(control<QLabel>(main(), QStringLiteral("StatusBar2(1)")).text(),
               QStringLiteral("Objects: 1 / 20"));
+
+    goTo("Command5");
+    EXPECT_EQ(shell->project().CurrentScene, 1);
+    linkTo(3, 2);
 
     action(QStringLiteral("runmen(0)")).trigger();
     ASSERT_NE(player_, nullptr) << "the player was started";
@@ -141,8 +151,6 @@ TEST_F(NewcomerRoad, FromNothingToAGameThatRuns) {
     EXPECT_EQ(player_->state(), QProcess::Running);
     endPlayer();
 
-    goBack();
-    EXPECT_EQ(shell->project().CurrentScene, 1);
     action(QStringLiteral("Filemen(3)")).trigger();
     EXPECT_FALSE(shell->project().ProjectOpen);
     dialogs.choice = text(projects / "First.qvl");
@@ -152,7 +160,9 @@ TEST_F(NewcomerRoad, FromNothingToAGameThatRuns) {
     EXPECT_EQ(shell->project().CurrentScene, 1);
     EXPECT_EQ(shell->scene().header(store::HeaderString::SceneImage), "red.bmp");
     EXPECT_EQ(shell->scene().LinkRight.target, 2);
-    button(main(), "Command6").click();
+    EXPECT_EQ(shell->scene().LinkRight.pointer, 4) << "an arrow to the right";
+    goTo("Command6");
+    EXPECT_EQ(shell->scene().header(store::HeaderString::SceneImage), "green.bmp");
     EXPECT_EQ(store::number(slot(1), store::HotSpot::TargetScene), 1);
     EXPECT_EQ(boxes.texts(), QStringList()) << "nothing on the road had to be told";
 }
