@@ -43,11 +43,9 @@ void alignWith(const QGridLayout& sounds, QGridLayout* grid) {
                 width = std::max(width, item->sizeHint().width());
             }
         }
-        grid->setColumnMinimumWidth(column, width);
-        // A column without anything would have no distance to the next one.
-        if (grid->itemAtPosition(0, column) == nullptr) {
-            grid->addItem(new QSpacerItem(width, 0), 0, column);
-        }
+        // A column without anything has no distance to the next one.
+        const bool any = grid->itemAtPosition(0, column) != nullptr;
+        grid->setColumnMinimumWidth(column, any ? width : width + grid->horizontalSpacing());
     }
 }
 
