@@ -1,5 +1,6 @@
 #include "groups/property_form.h"
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QShowEvent>
@@ -67,8 +68,12 @@ void PropertyForm::addButtons(const Buttons& names, const std::function<void()>&
 
 void PropertyForm::showEvent(QShowEvent* event) {
     if (!FormLoaded && !event->spontaneous()) {
-        sheet_.load();
-        filled();
+        for (QComboBox* list : findChildren<QComboBox*>()) {
+            list->setFocusPolicy(Qt::StrongFocus);  // a wheel does not give it the keyboard
+            list->removeEventFilter(this);
+            list->installEventFilter(this);
+        }
+        sheet_.load([this] { filled(); });
         Q_EMIT sheet_.activated();
         FormLoaded = true;
         if (apply_ != nullptr) {
@@ -83,6 +88,15 @@ bool PropertyForm::event(QEvent* event) {
         Q_EMIT sheet_.activated();
     }
     return Form::event(event);
+}
+
+bool PropertyForm::eventFilter(QObject* watched, QEvent* event) {
+    const auto* list = qobject_cast<QComboBox*>(watched);
+    if (list != nullptr && event->type() == QEvent::Wheel && !list->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return Form::eventFilter(watched, event);
 }
 
 bool PropertyForm::SaveProps() {
@@ -104,12 +118,15 @@ bool PropertyForm::SaveProps() {
 
 void PropertyForm::tellProblem(const Binding& binding) {
     sheet_.tools().boxes.show({.text = binding.problem(), .icon = forms::Box::Icon::exclamation});
-    QWidget* control = binding.control();
+    lead(*binding.control());
+}
+
+void PropertyForm::lead(QWidget& control) {
     if (pages_ != nullptr) {
-        pages_->reveal(*control);
+        pages_->reveal(control);
     }
-    control->setFocus();
-    if (auto* box = qobject_cast<QLineEdit*>(control)) {
+    control.setFocus();
+    if (auto* box = qobject_cast<QLineEdit*>(&control)) {
         box->selectAll();
     }
 }

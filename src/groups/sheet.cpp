@@ -194,10 +194,13 @@ void Sheet::bindText(const TextRef& field, QComboBox* list) {
     bind(std::make_unique<DecimalBinding>(field, list));
 }
 
-void Sheet::load() {
+void Sheet::load(const std::function<void()>& then) {
     const QScopedValueRollback filling(filling_, true);
     for (const auto& binding : bindings_) {
         binding->load();
+    }
+    if (then) {
+        then();
     }
 }
 

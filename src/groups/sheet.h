@@ -91,8 +91,8 @@ class Sheet : public QObject {
     void bindText(const TextRef& field, QComboBox* list);
     void bind(std::unique_ptr<Binding> binding) { bindings_.push_back(std::move(binding)); }
 
-    /// Fields to controls.
-    void load();
+    /// Fields to controls. `then` counts as filling still.
+    void load(const std::function<void()>& then = {});
     /// Controls to fields. To be called when there is no problem.
     void store();
     /// The first binding whose field cannot take what its control shows, or null.
@@ -105,6 +105,8 @@ class Sheet : public QObject {
     void touched();
     /// The window is shown, or is looked at again after another one.
     void activated();
+    /// A sound has stopped all others: what else played as a WAV is silent now.
+    void soundsStopped();
     /// The window is about to close: previews stop, their buttons go back.
     void closing();
     /// A movie begins: the window makes room.

@@ -160,6 +160,7 @@ void SoundSpec::Playwav_Click() {
     }
     if (play_ == Play::once) {
         preview.StopAllWavs();
+        Q_EMIT sheet_.soundsStopped();
         preview.PlayWav(name, volume->value(), pan->value(), k_);
         return;
     }
@@ -169,6 +170,7 @@ void SoundSpec::Playwav_Click() {
     }
     if (alone_) {
         preview.StopAllWavs();
+        Q_EMIT sheet_.soundsStopped();
     }
     preview.PlayWav(name, volume->value(), pan->value(), k_, true);
     playButton_->setText(kPlaying);

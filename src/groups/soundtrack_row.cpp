@@ -50,6 +50,11 @@ SoundtrackRow::SoundtrackRow(Sheet& sheet, const Names& names, QWidget* parent)
     });
     const forms::Preview& preview = sheet.tools().preview;
     const auto idle = [this] { playButton_->setText(kIdle); };
+    connect(&sheet, &Sheet::soundsStopped, this, [this, idle] {
+        if (kind() == Kind::wav) {
+            idle();
+        }
+    });
     connect(&preview, &forms::Preview::mp3Ended, this, idle);
     connect(&preview, &forms::Preview::midiEnded, this, idle);
     connect(&preview, &forms::Preview::wavEnded, this, [idle](int channel) {

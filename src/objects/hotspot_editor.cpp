@@ -220,6 +220,7 @@ bool linkPropf::check() {
         sheet().tools().boxes.show(
             {.text = QStringLiteral("HotSpot size is too small!  Minimum size is 5h X 5w."),
              .icon = forms::Box::Icon::exclamation});
+        lead(height_->number() < HotSpot::kLeastSide ? *height_ : *width_);
         return false;
     }
     return true;

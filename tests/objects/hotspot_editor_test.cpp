@@ -121,6 +121,10 @@ TEST_F(HotSpotEditor, AQuickSpotOfFiveByFiveIsSavedAndASmallerOneRefused) {
             hand.type("Text2(1)", QString::fromLatin1(width));
             hand.click("Command6");
             EXPECT_TRUE(hand.window().isVisible());
+            EXPECT_EQ(
+                hand.window().focusWidget(),
+                &hand.get<QLineEdit>(*height == '4' || *height == '\0' ? "Text2(0)" : "Text2(1)"))
+                << "the box that has to be corrected";
             EXPECT_TRUE(hand.button("Command1").isEnabled());
             ASSERT_EQ(boxes.shown().size(), ++refused);
             EXPECT_EQ(boxes.texts().back(), kTooSmall);

@@ -51,6 +51,26 @@ TEST_F(LinkEditor, SaysWhatItIsAndListsWhatThereIs) {
     });
 }
 
+TEST_F(LinkEditor, AWheelTurnedOverAListInPassingChangesNothing) {
+    open(threeScenes());
+    const store::Scene before = scene();
+    editLink(1, [&](const Hand& hand) {
+        QComboBox& list = hand.list("combo2");
+        hand.get<QComboBox>("Combo1").setFocus();
+        const auto turn = [&list] {
+            QWheelEvent wheel(QPointF(5, 5), list.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120),
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&list, &wheel);
+        };
+        turn();
+        EXPECT_EQ(list.currentIndex(), 0);
+        EXPECT_TRUE(scene() == before);
+        list.setFocus();
+        turn();
+        EXPECT_EQ(list.currentIndex(), 1) << "a list that has the keyboard follows the wheel";
+    });
+}
+
 TEST_F(LinkEditor, OpensOnTheDirectionOfTheLinkAndChangesNothing) {
     open(threeScenes());
     for (const LinkSide side : store::kLinkSides) {

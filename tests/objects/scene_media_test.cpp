@@ -163,6 +163,12 @@ TEST_F(SceneMedia, MusicIsHeardByItsKindAndFollowsItsVolume) {
         EXPECT_EQ(hand.text("SV(0)"), QStringLiteral("0")) << "another file is at full volume";
         hand.click("PlayMidfile");
         EXPECT_EQ(heard(), orders({"PlayWav a.wav 0 0 0"}));
+        EXPECT_EQ(hand.button("PlayMidfile").text(), QStringLiteral("[]"));
+        hand.get<QLineEdit>("SE(1)").setText(QStringLiteral("a.wav"));
+        hand.click("Playwav(1)");
+        EXPECT_EQ(hand.button("PlayMidfile").text(), QStringLiteral(">"))
+            << "the sound has stopped all others";
+        heard();
         choose("jig.mid");
         EXPECT_EQ(hand.button("PlayMidfile").text(), QStringLiteral(">"));
         hand.click("PlayMidfile");
