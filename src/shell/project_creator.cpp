@@ -42,6 +42,8 @@ ProjectCreator::ProjectCreator(House house) : house_(std::move(house)) {}
 bool ProjectCreator::CreateProject(const QString& folder, const QString& name) {
     store::Project& project = house_.project;
     project.clear();
+    // An end that the system asks for waits until the project can be closed in order.
+    project.ProjectLoading = true;
     told_ = false;
     try {
         project.ProjectFolder = withSeparator(folder).toStdString();
@@ -118,7 +120,6 @@ void ProjectCreator::makeFiles() {
 void ProjectCreator::open() {
     store::Project& project = house_.project;
     step_ = QStringLiteral("Opening the new project");
-    project.ProjectLoading = false;
     forms::letEventsRun();
     NoProgress progress;
     if (!house_.loader.ReadProjectLists(progress)) {
@@ -126,6 +127,7 @@ void ProjectCreator::open() {
         throw RuntimeError(ErrorNumber::deviceError);
     }
     project.ProjectOpen = true;
+    project.ProjectLoading = false;
     house_.keeper.LoadScene(1);
     house_.keeper.showScene();
 }

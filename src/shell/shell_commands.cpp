@@ -89,6 +89,9 @@ void Shell::showNewProject() {
 }
 
 bool Shell::createProject(const QString& folder, const QString& name) {
+    if (shuttingDown_) {  // the system's request came while the window painted its label
+        return false;
+    }
     if (project_.ProjectOpen && !CloseProject()) {
         return false;
     }
@@ -97,7 +100,9 @@ bool Shell::createProject(const QString& folder, const QString& name) {
         ResetShell();
         return false;
     }
-    rememberOpenProject();
+    if (project_.ProjectOpen) {  // the system may have ended the editor while the scene was shown
+        rememberOpenProject();
+    }
     return true;
 }
 

@@ -413,5 +413,23 @@ TEST_F(NewProject, TheCodeIsWithinItsRange) {
     EXPECT_EQ(shell->project().SecurityCode, 5000);
 }
 
+TEST_F(NewProject, TheSystemMayEndTheEditorInTheMiddle) {
+    begin();
+    const fs::path folder = projects.makeFolder("cut off");
+    withNewProject([&](QWidget& window) {
+        choose(window, folder);
+        QTimer::singleShot(0, [this] { shell->endByRequest(); });
+        button(window, "Command2").click();
+    });
+    ASSERT_TRUE(waitUntil([this] { return quits == 1; }));
+    EXPECT_FALSE(shell->project().ProjectOpen);
+    shell.reset();
+    if (!fs::exists(folder / "Project.qvl")) {
+        return;  // the request came first: nothing was begun
+    }
+    start({text(folder / "Project.qvl")});
+    EXPECT_TRUE(shell->project().ProjectOpen) << boxes.texts().join(QLatin1Char('|')).toStdString();
+}
+
 }  // namespace
 }  // namespace quorvel::test
