@@ -56,10 +56,14 @@ QString ResolveInstallPath(const QString& programFolder, const QString& userFold
     if (QFileInfo(program).isWritable()) {
         return withSeparator(program);
     }
-    for (const char* folder : {"QuorvelDefaults", "incoming", "Skins", "help"}) {
+    for (const char* folder : {"QuorvelDefaults", "incoming", "Skins"}) {
         const QString name = QString::fromLatin1(folder);
         copyMissing(QDir(program).filePath(name), QDir(userFolder).filePath(name));
     }
+    // The help tells about the program that runs: its pages replace those of an older one.
+    const QString help = QStringLiteral("help");
+    QDir(QDir(userFolder).filePath(help)).removeRecursively();
+    copyMissing(QDir(program).filePath(help), QDir(userFolder).filePath(help));
     renewPlayer(program, userFolder);
     return withSeparator(userFolder);
 }

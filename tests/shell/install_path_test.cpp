@@ -42,6 +42,7 @@ TEST(InstallPath, ElseIsTheAuthorsOwnFilledFromTheProgram) {
     writeBytes(folder.makeFolder("program/help") / "index.html", "help");
     writeBytes(program / "other", "not copied");
     writeBytes(folder.makeFolder("user/QuorvelDefaults") / "Game.exe", "the author's own");
+    writeBytes(folder.makeFolder("user/help") / "index.html", "help of an older program");
     const ReadOnlyMount disc(program);
     if (!disc.isMounted()) {
         GTEST_SKIP() << disc.whyNot();
