@@ -83,6 +83,16 @@ void EditorSettings::RestoreQuickTips() {
     sync();
 }
 
+void EditorSettings::turnOffQuickTip(int number) {
+    WriteRegValue(kNoTip + QString::number(number), QStringLiteral("1"));
+    sync();
+}
+
+void EditorSettings::turnOffAllQuickTips() {
+    WriteRegValue(kNoTipsAtAll, QStringLiteral("1"));
+    sync();
+}
+
 void EditorSettings::rememberProject(const QString& path) {
     // Paths come as they are spelt on disk, so another letter case is another project.
     const auto same = std::find(RecentProj.begin(), RecentProj.end(), path);

@@ -51,6 +51,9 @@ class EditorSettings {
 
     /// Brings back all Quick Tips, those turned off one by one and those turned off together.
     void RestoreQuickTips();
+    /// Turns off one Quick Tip, 1 to `kQuickTips`, or all.
+    void turnOffQuickTip(int number);
+    void turnOffAllQuickTips();
 
     /// The value, or an empty text when there is none.
     [[nodiscard]] QString ReadRegValue(const QString& name) const;

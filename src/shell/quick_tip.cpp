@@ -60,10 +60,10 @@ void QuickTip::TipsOFF_Click() {
 
 void QuickTip::Command1_Click() {
     if (noMoreTip_->isChecked()) {
-        settings_.WriteRegValue(kNoTip + QString::number(number_), kOff);
+        settings_.turnOffQuickTip(number_);
     }
     if (tipsOff_->isChecked()) {
-        settings_.WriteRegValue(kNoTipsAtAll, kOff);
+        settings_.turnOffAllQuickTips();
     }
     accept();
 }
