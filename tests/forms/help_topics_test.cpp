@@ -6,7 +6,6 @@
 #include <string>
 
 #include "forms/guide.h"
-#include "forms/help_windows.h"
 #include "support/windows/played_author.h"
 
 namespace quorvel::test {
@@ -56,25 +55,6 @@ struct Listener : forms::Guide {
     void ShowQuickTip(int /*number*/) override {}
     HelpTopic shown = HelpTopic::FirstPage;
 };
-
-TEST(HelpTopics, AWindowIsKnownByItsName) {
-    Listener listener;
-    const std::vector<std::pair<const char*, HelpTopic>> some = {
-        {"NewProject", HelpTopic::NewProject},
-        {"sceneimage", HelpTopic::sceneimage},
-        {"directionprop", HelpTopic::directionprop},
-        {"linkPropf", HelpTopic::linkPropf},
-        {"ResizeD", HelpTopic::ResizeD},
-    };
-    for (const auto& [window, topic] : some) {
-        const auto help = forms::helpOfWindow(listener, QString::fromLatin1(window));
-        ASSERT_NE(help, nullptr) << window;
-        help();
-        EXPECT_EQ(listener.shown, topic) << window;
-    }
-    EXPECT_EQ(forms::helpOfWindow(listener, QStringLiteral("Unheard")), nullptr)
-        << "the button of such a window is disabled";
-}
 
 TEST(HelpTopics, AHelpButtonPassesItsNumber) {
     Listener listener;
