@@ -117,6 +117,7 @@ std::vector<HelpMatch> HelpPages::search(const QString& question) {
         return std::tie(b.inTitle, b.count) < std::tie(a.inTitle, a.count);
     });
     std::vector<HelpMatch> matches;
+    matches.reserve(found.size());
     for (Found& one : found) {
         matches.push_back(std::move(one.match));
     }

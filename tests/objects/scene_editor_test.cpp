@@ -10,6 +10,10 @@ namespace {
 using store::HeaderInt;
 using store::HeaderString;
 
+constexpr const char* kSetFlag =
+    "Set Flag (Occurs immediately when player enters this scene, unless the 'Check Flag' option "
+    "above switches the scene)";
+
 class SceneEditor : public EditorAuthor {
   protected:
     void openGame(const std::function<void(store::SceneRecord&)>& change = {}) {
@@ -48,34 +52,32 @@ TEST_F(SceneEditor, ShowsTheSceneAndSaysTheWholeOfItsTexts) {
                 texts << label->text();
             }
         }
-        for (const char* text :
-             {"Scene #",
-              "Internal Name >",
-              "Scene Image",
-              "...",
-              "Check Flag",
-              "If Flag",
-              "then switch to scene",
-              "Set Flag",
-              "Set Flag (Occurs immediately when player enters this scene, unless the 'Check "
-              "Flag' option above switches the scene)",
-              "Flag",
-              "Value",
-              "ADD value to flag",
-              "Movies",
-              "Enter >",
-              "Exit >",
-              "Vol >",
-              "Soundtrack",
-              "Sound Effects",
-              "Looping >",
-              "Pan >",
-              "Apply",
-              "Cancel",
-              "OK",
-              "Help",
-              "Restore Window",
-              ">"}) {
+        for (const char* text : {"Scene #",
+                                 "Internal Name >",
+                                 "Scene Image",
+                                 "...",
+                                 "Check Flag",
+                                 "If Flag",
+                                 "then switch to scene",
+                                 "Set Flag",
+                                 kSetFlag,
+                                 "Flag",
+                                 "Value",
+                                 "ADD value to flag",
+                                 "Movies",
+                                 "Enter >",
+                                 "Exit >",
+                                 "Vol >",
+                                 "Soundtrack",
+                                 "Sound Effects",
+                                 "Looping >",
+                                 "Pan >",
+                                 "Apply",
+                                 "Cancel",
+                                 "OK",
+                                 "Help",
+                                 "Restore Window",
+                                 ">"}) {
             EXPECT_TRUE(texts.contains(QString::fromLatin1(text))) << text;
         }
         EXPECT_EQ(hand.button("Playmov(4)").toolTip(), QStringLiteral("Play/ Stop"));
