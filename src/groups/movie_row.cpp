@@ -66,13 +66,14 @@ void MoviePlay::ended() {
 MovieRow::MovieRow(Sheet& sheet, MoviePlay& movies, const Names& names, QWidget* parent)
     : QObject(parent),
       file(new FileBox(names.file, spokenOf(names, "file"), parent)),
-      volume(new Level(names.slider, names.value, spokenOf(names, "volume"), kMovieVolume, parent)),
       sheet_(sheet),
       movies_(movies),
-      locate_(makeSmallButton(names.locate, "...", spokenOf(names, "locate"), parent)),
-      playButton_(makeSmallButton(names.play, ">", spokenOf(names, "play"), parent)),
       label_(makeLabel(names.label, parent)),
       volumeLabel_(makeLabel("Vol >", parent)) {
+    // In the order in which the Tab key visits them.
+    locate_ = makeSmallButton(names.locate, "...", spokenOf(names, "locate"), parent);
+    playButton_ = makeSmallButton(names.play, ">", spokenOf(names, "play"), parent);
+    volume = new Level(names.slider, names.value, spokenOf(names, "volume"), kMovieVolume, parent);
     locate_->setToolTip(QStringLiteral("Locate"));
     playButton_->setToolTip(QStringLiteral("Play/ Stop"));
     followFile();

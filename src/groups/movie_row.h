@@ -47,7 +47,7 @@ class MovieRow : public QObject {
     MovieRow(Sheet& sheet, MoviePlay& movies, const Names& names, QWidget* parent);
 
     FileBox* file;
-    Level* volume;
+    Level* volume = nullptr;
 
     /// Puts the controls into one row of a grid.
     void addTo(QGridLayout* grid, int row);
@@ -62,8 +62,8 @@ class MovieRow : public QObject {
 
     Sheet& sheet_;
     MoviePlay& movies_;
-    QPushButton* locate_;
-    QPushButton* playButton_;
+    QPushButton* locate_ = nullptr;
+    QPushButton* playButton_ = nullptr;
     QLabel* label_;
     QLabel* volumeLabel_;
 };

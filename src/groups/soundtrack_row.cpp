@@ -14,15 +14,16 @@ QString name(const char* text) {
 SoundtrackRow::SoundtrackRow(Sheet& sheet, const Names& names, QWidget* parent)
     : QObject(parent),
       file(new FileBox(name(names.file), QStringLiteral("Soundtrack, file"), parent)),
-      volume(new Level(name(names.slider), name(names.value), QStringLiteral("Soundtrack, volume"),
-                       kWavVolume, parent)),
       sheet_(sheet),
-      locate_(
-          makeSmallButton(name(names.locate), "...", QStringLiteral("Soundtrack, locate"), parent)),
-      playButton_(
-          makeSmallButton(name(names.play), ">", QStringLiteral("Soundtrack, play"), parent)),
       label_(makeLabel(names.label, parent)),
       volumeLabel_(makeLabel("Vol >", parent)) {
+    // In the order in which the Tab key visits them.
+    locate_ =
+        makeSmallButton(name(names.locate), "...", QStringLiteral("Soundtrack, locate"), parent);
+    playButton_ =
+        makeSmallButton(name(names.play), ">", QStringLiteral("Soundtrack, play"), parent);
+    volume = new Level(name(names.slider), name(names.value), QStringLiteral("Soundtrack, volume"),
+                       kWavVolume, parent);
     locate_->setToolTip(QStringLiteral("Locate"));
     playButton_->setToolTip(QStringLiteral("Play/ Stop"));
     followFile();

@@ -27,7 +27,7 @@ class SoundtrackRow : public QObject {
     static inline const QString kStop = QStringLiteral("(Stop Sndtrk)");
 
     FileBox* file;
-    Level* volume;
+    Level* volume = nullptr;
 
     /// Puts the controls into one row of a grid.
     void addTo(QGridLayout* grid, int row);
@@ -49,8 +49,8 @@ class SoundtrackRow : public QObject {
     static constexpr int kChannel = 0;
 
     Sheet& sheet_;
-    QPushButton* locate_;
-    QPushButton* playButton_;
+    QPushButton* locate_ = nullptr;
+    QPushButton* playButton_ = nullptr;
     QLabel* label_;
     QLabel* volumeLabel_;
 };
