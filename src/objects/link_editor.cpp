@@ -77,10 +77,16 @@ void directionprop::ShowDirection(const QString& direction) {
 }
 
 void directionprop::Combo1_Click(int pointer) {
+    if (CurObj_ == 0) {
+        return;
+    }
     house_.scene.link(side()).pointer = static_cast<std::int16_t>(pointer);
 }
 
 void directionprop::combo2_Click(int scene) {
+    if (CurObj_ == 0) {
+        return;
+    }
     store::EdgeLink& link = house_.scene.link(side());
     link.target = static_cast<std::int16_t>(scene);
     if (scene == 0) {

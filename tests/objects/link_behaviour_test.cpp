@@ -77,6 +77,26 @@ TEST_F(LinkBehaviour, AChoiceGoesIntoTheLinkOfItsTabAtOnceAndStaysHoweverTheWind
     }
 }
 
+TEST_F(LinkBehaviour, WithoutADirectionNothingIsShownOrChanged) {
+    link(LinkSide::down) = {.pointer = 9, .target = 2};
+    const store::Scene before = scene();
+    editLink(0, [](const Hand& hand) {
+        EXPECT_EQ(hand.list("Combo1").currentIndex(), 0);
+        EXPECT_EQ(hand.list("combo2").currentIndex(), 0);
+        hand.pick("Combo1", 3);
+        hand.pick("combo2", 1);
+        hand.click("Command1");
+    });
+    EXPECT_TRUE(scene() == before);
+}
+
+TEST_F(LinkBehaviour, ItsGroupsBearTheirCaptions) {
+    editLink(1, [](const Hand& hand) {
+        EXPECT_EQ(hand.get<QGroupBox>("Frame1(1)").title(), QStringLiteral("Mousepointer"));
+        EXPECT_EQ(hand.get<QGroupBox>("Frame1(2)").title(), QStringLiteral("Linked Scene"));
+    });
+}
+
 TEST_F(LinkBehaviour, EnterIsOk) {
     editLink(2, [](const Hand& hand) {
         QTest::keyClick(&hand.window(), Qt::Key_Return);
