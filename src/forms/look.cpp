@@ -18,7 +18,8 @@ namespace quorvel::forms {
 namespace {
 
 struct Tones {
-    QColor window, text, base, alternate, button, highlight, highlighted, link, disabled;
+    // `filled`: the filled half of a slider that is disabled, quieter than its handle.
+    QColor window, text, base, alternate, button, highlight, highlighted, link, disabled, filled;
 };
 
 QPalette paletteOf(const Tones& tones) {
@@ -37,7 +38,7 @@ QPalette paletteOf(const Tones& tones) {
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(QPalette::Disabled, role, tones.disabled);
     }
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.disabled);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.filled);
     return palette;
 }
 
@@ -50,7 +51,8 @@ QPalette lightPalette() {
                       .highlight = QColor(0x1f8f84),
                       .highlighted = QColor(0xffffff),
                       .link = QColor(0x14756b),
-                      .disabled = QColor(0x9a9fa5)});
+                      .disabled = QColor(0x9a9fa5),
+                      .filled = QColor(0xb9bdc2)});
 }
 
 QPalette darkPalette() {
@@ -62,7 +64,8 @@ QPalette darkPalette() {
                       .highlight = QColor(0x1f8f84),
                       .highlighted = QColor(0xffffff),
                       .link = QColor(0x4cc4b8),
-                      .disabled = QColor(0x82878f)});
+                      .disabled = QColor(0x82878f),
+                      .filled = QColor(0x5c6168)});
 }
 
 /// The base style draws the edges of boxes and circles darker than the window, where a dark window

@@ -76,6 +76,18 @@ TEST_F(LookOfTheProgram, TextCanBeRead) {
     }
 }
 
+TEST_F(LookOfTheProgram, ADisabledSliderIsQuieterThanItsText) {
+    for (const Look look : {Look::light, Look::dark}) {
+        const QPalette palette = paletteOf(look);
+        const double ground = luminance(palette.color(QPalette::Window));
+        const auto distance = [&](QPalette::ColorRole role) {
+            return std::abs(luminance(palette.color(QPalette::Disabled, role)) - ground);
+        };
+        EXPECT_LT(distance(QPalette::Highlight), distance(QPalette::WindowText));
+        EXPECT_GT(distance(QPalette::Highlight), 0.02) << "but it is seen";
+    }
+}
+
 TEST_F(LookOfTheProgram, TheEdgesOfOptionsAndChecksStandOut) {
     for (const Look look : {Look::light, Look::dark}) {
         const QPalette palette = paletteOf(look);
