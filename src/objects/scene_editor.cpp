@@ -79,6 +79,7 @@ void sceneimage::buildScene(QVBoxLayout* column) {
     caption->setBuddy(name_);
     auto* identity = makeRow({makeLabel("Scene #", this, "Label3(0)"), number_, caption, name_});
     identity->setSpacing(forms::kFormSpacing);
+    identity->insertSpacing(2, forms::kFormMargin);
     column->addLayout(identity);
     connect(name_, &QLineEdit::textChanged, &sheet(), &groups::Sheet::touch);
 
