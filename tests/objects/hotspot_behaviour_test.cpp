@@ -241,6 +241,30 @@ TEST_F(HotSpotBehaviour, AnotherLookAtTheWindowRefreshesTheItemsIcon) {
     });
 }
 
+TEST_F(HotSpotBehaviour, TypesWithoutAnEditorOpenNothing) {
+    openGame();
+    shell->actions().PopupObject = kSlot;
+    for (const int type : {10, 99, -1}) {
+        shell->actions().ShowObjectProps(type);
+        EXPECT_EQ(shell->actions().CurObj, 0);
+    }
+    EXPECT_TRUE(boxes.shown().empty());
+}
+
+TEST_F(HotSpotBehaviour, AFreshTestIsFlagOneEqualsNought) {
+    openGame();
+    edit([](const Hand& hand) {
+        for (const auto& [box, text] : {std::pair{"FlagID(0)", "1"}, std::pair{"FlagID(1)", "1"},
+                                        std::pair{"Text3(0)", "0"}, std::pair{"Text3(1)", "0"}}) {
+            EXPECT_EQ(hand.text(box), QString::fromLatin1(text)) << box;
+        }
+        EXPECT_EQ(hand.list("Combo2").currentText(), QStringLiteral("="));
+        for (const char* box : {"FlagID(0)", "FlagID(1)"}) {
+            EXPECT_EQ(hand.box(box).toolTip(), QStringLiteral("(1-255)"));
+        }
+    });
+}
+
 TEST_F(HotSpotBehaviour, OptionsOfZeroAreTheFirst) {
     openGame();
     put(HotSpot::Style, 0);

@@ -101,6 +101,17 @@ TEST_F(HotSpotPreviews, EachRowAsksForAWav) {
     });
 }
 
+TEST_F(HotSpotPreviews, ADoubleClickOnAnEmptyBoxCountsAsAChange) {
+    put(HotSpot::Sound, "");
+    listen([this](const Hand& hand) {
+        hand.doubleClick("SE(1)");
+        EXPECT_TRUE(hand.button("Command1").isEnabled());
+        EXPECT_TRUE(hand.text("SE(1)").isEmpty());
+        hand.click("Playwav(1)");
+        EXPECT_EQ(heard(), QStringList()) << "nothing to play";
+    });
+}
+
 TEST_F(HotSpotPreviews, RowsLookAlike) {
     listen([](const Hand& hand) {
         for (int k = 1; k <= 3; ++k) {
@@ -121,6 +132,12 @@ TEST_F(HotSpotPreviews, RowsLookAlike) {
                  {std::pair{"SV", "-4000 to 0 (Full Volume)"}, std::pair{"SP", "-4000 to 4000"}}) {
                 EXPECT_FALSE(hand.box(named(box)).isEnabled()) << box;
                 EXPECT_EQ(hand.box(named(box)).toolTip(), QString::fromLatin1(tip));
+            }
+            for (const auto& [name, caption, tip] :
+                 {std::tuple{"HLeft", "L", "Hard-Left"}, std::tuple{"Centr", "C", "Center"},
+                  std::tuple{"HRight", "R", "Hard-Right"}}) {
+                EXPECT_EQ(hand.button(named(name)).text(), QString::fromLatin1(caption));
+                EXPECT_EQ(hand.button(named(name)).toolTip(), QString::fromLatin1(tip));
             }
             QStringList channels;
             for (int i = 0; i < hand.list(named("sChannelNum")).count(); ++i) {

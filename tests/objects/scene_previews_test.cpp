@@ -161,6 +161,8 @@ TEST_F(ScenePreviews, AnotherFileStopsTheMovieOfItsRowAlone) {
         choose(hand, "LME(5)", "out.mpg");
         EXPECT_EQ(heard(), QStringList());
         EXPECT_EQ(hand.button("Playmov(4)").text(), QStringLiteral("[]"));
+        hand.slider("Hscroll1(5)").setValue(33);
+        EXPECT_EQ(heard(), QStringList()) << "the volume of a movie that does not play";
         choose(hand, "LME(4)", "out.mpg");
         EXPECT_EQ(heard(), orders({"StopMovie"}));
         EXPECT_EQ(hand.button("Playmov(4)").text(), QStringLiteral(">"));
@@ -189,6 +191,25 @@ TEST_F(ScenePreviews, AnotherSoundtrackStopsMusicAndSounds) {
         EXPECT_TRUE(hand.button("Command1").isEnabled());
         hand.click("PlayMidfile");
         EXPECT_EQ(heard(), orders({"PlayMidi JIG.MID"})) << "letter case does not matter";
+    });
+}
+
+TEST_F(ScenePreviews, AWheelTurnedOverASliderInPassingChangesNothing) {
+    edit([](const Hand& hand) {
+        QSlider& slider = hand.slider("Hscroll1(4)");
+        hand.box("MEN(4)").setFocus();
+        const auto turn = [&slider] {
+            QWheelEvent wheel(QPointF(5, 5), slider.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120),
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&slider, &wheel);
+        };
+        turn();
+        EXPECT_EQ(slider.value(), 60);
+        EXPECT_FALSE(hand.button("Command1").isEnabled());
+        slider.setFocus();
+        turn();
+        EXPECT_LT(slider.value(), 60) << "a slider that has the keyboard follows the wheel";
+        EXPECT_TRUE(hand.button("Command1").isEnabled());
     });
 }
 
