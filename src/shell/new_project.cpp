@@ -66,6 +66,9 @@ QLabel* NewProject::addLabel(QVBoxLayout* column, QLabel* label, const char* nam
     label->setObjectName(QString::fromLatin1(name));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
+    // Should a label get more room than its text needs, the text stays where the eye expects it,
+    // and the picture in it as well.
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setMinimumWidth(kTextWidth);
     column->addWidget(label);
     return label;

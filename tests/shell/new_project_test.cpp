@@ -1,99 +1,19 @@
 // Making a new project through its window.
-#include <gmock/gmock.h>
-
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTest>
+#include <QTimer>
 
-#include "shell/scene_fixture.h"
+#include "shell/new_project_stage.h"
 #include "store/security.h"
-#include "support/mounts.h"
-#include "support/windows/tip_reader.h"
-#include "support/windows/window_checks.h"
 
 namespace quorvel::test {
 namespace {
 
 namespace fs = std::filesystem;
 
-class NewProject : public SceneFixture {
-  protected:
-    NewProject() {
-        for (const char* name : {"Game.exe", "ReadMe.txt", "Manual.txt"}) {
-            writeBytes(install.makeFolder("QuorvelDefaults") / name, std::string("the ") + name);
-        }
-        fs::permissions(install / "QuorvelDefaults/Game.exe", fs::perms::owner_exec,
-                        fs::perm_options::add);
-    }
-    void begin() {
-        start();
-        shell->InstallPath = text(install.path()) + QLatin1Char('/');
-        reader = std::make_unique<TipReader>(*shell);
-    }
-    /// Opens the window and lets the author use it. What the author leaves open is closed.
-    void withNewProject(const std::function<void(QWidget&)>& author) {
-        withWindow(
-            QStringLiteral("NewProject"),
-            [this] { action(QStringLiteral("Filemen(1)")).trigger(); },
-            [&](QWidget& window) {
-                author(window);
-                if (window.isVisible()) {
-                    button(window, "Command3").click();
-                }
-            });
-    }
-    static QPushButton& button(const QWidget& window, const char* name) {
-        return control<QPushButton>(window, QString::fromLatin1(name));
-    }
-    static QLineEdit& field(const QWidget& window, const char* name) {
-        return control<QLineEdit>(window, QString::fromLatin1(name));
-    }
-    void choose(const QWidget& window, const fs::path& folder) {
-        dialogs.choice = text(folder) + QLatin1Char('/');
-        button(window, "Command1").click();
-    }
-    /// Makes a project in the folder, as an author does who needs no other name.
-    void create(const fs::path& folder, const char* name = nullptr) {
-        withNewProject([&](QWidget& window) {
-            choose(window, folder);
-            if (name != nullptr) {
-                field(window, "Text2").setText(QString::fromUtf8(name));
-            }
-            button(window, "Command2").click();
-        });
-    }
-    /// Tries to make a project; the window must be usable afterwards, and no project open.
-    void createInVain(const fs::path& folder, const char* name = nullptr) {
-        withNewProject([&](QWidget& window) {
-            choose(window, folder);
-            if (name != nullptr) {
-                field(window, "Text2").setText(QString::fromUtf8(name));
-            }
-            button(window, "Command2").click();
-            EXPECT_TRUE(window.isVisible());
-            EXPECT_TRUE(button(window, "Command2").isEnabled());
-            EXPECT_TRUE(button(window, "Command3").isEnabled());
-            EXPECT_FALSE(control<QLabel>(window, QStringLiteral("Label6")).isVisible());
-        });
-        EXPECT_FALSE(shell->project().ProjectOpen);
-        EXPECT_EQ(control<QAction>(main(), QStringLiteral("projfolder")).text(),
-                  QStringLiteral("(No Project Loaded)"));
-        EXPECT_FALSE(action(QStringLiteral("runmen(0)")).isEnabled());
-        EXPECT_EQ(reader->tips, std::vector<int>());
-    }
-    QString step() {
-        EXPECT_EQ(boxes.shown().size(), 1U);
-        const forms::Box& box = boxes.shown().back();
-        EXPECT_EQ(box.title, QStringLiteral("New Project"));
-        EXPECT_EQ(box.icon, forms::Box::Icon::exclamation);
-        return box.text;
-    }
-
-    TempFolder install;
-    std::unique_ptr<TipReader> reader;
-};
+using NewProject = NewProjectStage;
 
 TEST_F(NewProject, TheWindowSaysWhatToDo) {
     begin();
@@ -128,6 +48,33 @@ TEST_F(NewProject, TheWindowSaysWhatToDo) {
         EXPECT_EQ(button(window, "Command1").text(), QStringLiteral("Choose Folder"));
         EXPECT_EQ(button(window, "Command3").text(), QStringLiteral("Cancel"));
         EXPECT_EQ(button(window, "Command5").text(), QStringLiteral("Help"));
+    });
+}
+
+TEST_F(NewProject, ThePictureOfTheButtonStandsInItsGapHoweverHighTheLabelIs) {
+    begin();
+    withNewProject([&](QWidget& window) {
+        auto& tip = control<QLabel>(window, QStringLiteral("Label7"));
+        const auto picture = [&tip](int height) {
+            tip.setFixedHeight(height);
+            tip.resize(tip.width(), height);
+            return tip.grab().toImage();
+        };
+        const int usual = tip.height();
+        const QImage asUsual = picture(usual);
+        const QImage higher = picture(usual + 60);
+        EXPECT_EQ(higher.copy(asUsual.rect()), asUsual) << "text and picture stay at the top";
+
+        const QFontMetrics metrics = tip.fontMetrics();
+        const QString before = tip.text().left(tip.text().indexOf(QStringLiteral("            ")));
+        const double scale = asUsual.devicePixelRatio();
+        const QRectF gap(metrics.horizontalAdvance(before) * scale, 0,
+                         12 * metrics.horizontalAdvance(QLatin1Char(' ')) * scale,
+                         metrics.lineSpacing() * scale);
+        const QImage inGap = asUsual.copy(gap.toAlignedRect());
+        QImage empty = inGap;
+        empty.fill(inGap.pixel(0, 0));
+        EXPECT_NE(inGap, empty) << "there is a picture";
     });
 }
 
@@ -236,99 +183,6 @@ TEST_F(NewProject, TheEmptyStoresPassTheSecurityPass) {
     fs::remove_all(copy);
 }
 
-TEST_F(NewProject, AFolderOfTheProjectInAnyLetterCaseIsInTheWay) {
-    begin();
-    for (const char* name : {"Resource", "resource", "RESOURCE"}) {
-        SCOPED_TRACE(name);
-        const fs::path folder = projects.makeFolder(std::string("in ") + name);
-        fs::create_directory(folder / name);
-        const auto before = snapshotOf(folder);
-        createInVain(folder);
-        EXPECT_EQ(differences(before, snapshotOf(folder)), "") << "nothing is written";
-        EXPECT_EQ(step(),
-                  QStringLiteral("The new project could not be created.\n\nStep: Making the "
-                                 "folders\n%1\n\nError 75 (Path/File access error)\n\nWhat "
-                                 "was made before remains in the folder.")
-                      .arg(text(folder / name)));
-        boxes.forget();
-    }
-}
-
-TEST_F(NewProject, AMissingFileOfTheDefaultsIsNamed) {
-    begin();
-    fs::remove(install / "QuorvelDefaults/Manual.txt");
-    createInVain(projects.path());
-    EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Step: Copying 'Manual.txt'\n"));
-    EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Error 53 (File not found)"));
-    EXPECT_TRUE(fs::exists(projects / "Game.exe")) << "what was made before remains";
-    EXPECT_FALSE(fs::exists(projects / "Project.qvl"));
-}
-
-TEST_F(NewProject, AMissingPlayerIsNamed) {
-    begin();
-    fs::remove(install / "QuorvelDefaults/Game.exe");
-    createInVain(projects.path());
-    EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Step: Copying 'Game.exe'\n"));
-}
-
-TEST_F(NewProject, AFullDiskIsToldAndTheNextTrySucceeds) {
-    const SmallDisk disk(64);
-    if (!disk.isMounted()) {
-        GTEST_SKIP() << disk.whyNot();
-    }
-    begin();
-    writeBytes(install / "QuorvelDefaults/ReadMe.txt", std::string(100000, 'x'));
-    createInVain(disk.path());
-    EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Step: Copying 'ReadMe.txt'\n"));
-    EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Error 61 (Disk full)"));
-    EXPECT_FALSE(fs::exists(disk.path() / "ReadMe.txt")) << "no half file";
-    boxes.forget();
-    create(projects.path());
-    EXPECT_TRUE(shell->project().ProjectOpen);
-    EXPECT_EQ(boxes.texts(), QStringList());
-}
-
-TEST_F(NewProject, AFolderWithoutTheRightToWriteIsTold) {
-    const ReadOnlyMount disc(projects.path());
-    if (!disc.isMounted()) {
-        GTEST_SKIP() << disc.whyNot();
-    }
-    begin();
-    createInVain(projects.path());
-    EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Step: Making the folders\n"));
-    EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Error 75 "));
-}
-
-TEST_F(NewProject, AFolderThatIsGoneIsTold) {
-    begin();
-    createInVain(projects / "gone");
-    EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Error 76 (Path not found)"));
-}
-
-TEST_F(NewProject, ANameThatIsNoneIsTold) {
-    begin();
-    for (const char* name : {"", "  ", "a/b", "..\\x", "what?", "nul", "\xE2\x82\xAC\xCE\xB1"}) {
-        SCOPED_TRACE(name);
-        createInVain(projects.path(), name);
-        EXPECT_THAT(step().toStdString(),
-                    ::testing::HasSubstr("Step: Checking the project's file name\n"));
-        EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Error 52 "));
-        EXPECT_TRUE(fs::is_empty(projects.path()));
-        boxes.forget();
-    }
-}
-
-TEST_F(NewProject, AProjectFileThatLiesThereIsKept) {
-    begin();
-    writeBytes(projects / "PROJECT.QVL", "somebody's project");
-    createInVain(projects.path());
-    EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Error 58 (File already exists)"));
-    EXPECT_EQ(readBytes(projects / "PROJECT.QVL"), "somebody's project");
-    boxes.forget();
-    create(projects.path(), "Another");
-    EXPECT_TRUE(shell->project().ProjectOpen);
-}
-
 TEST_F(NewProject, TheOpenProjectIsClosedInOrderFirst) {
     files = ProjectBuilder()
                 .fileName("Old.qvl")
@@ -354,53 +208,6 @@ TEST_F(NewProject, TheOpenProjectIsClosedInOrderFirst) {
     EXPECT_EQ(control<QComboBox>(main(), QStringLiteral("Combo1")).count(), 2);
     EXPECT_EQ(boxes.texts(), QStringList());
     EXPECT_EQ(text(projects.path()), dialogs.asked.back().folder) << "beside the last project";
-}
-
-TEST_F(NewProject, AProjectThatTheAuthorKeepsStaysOpen) {
-    files = ProjectBuilder().build(projects.makeFolder("old"));
-    begin();
-    EXPECT_TRUE(shell->openProject(text(files.projectPath())));
-    const fs::path folder = projects.makeFolder("new");
-    // The scene cannot be written any more, for a reason that is told and asked about.
-    shell->project().sceneFile.close();
-    const SmallDisk disk(64);
-    if (!disk.isMounted()) {
-        GTEST_SKIP() << disk.whyNot();
-    }
-    fs::copy(files.storePath(1), disk.path() / "Quorvel1.dat");
-    shell->project().sceneFile.open(disk.path() / "Quorvel1.dat");
-    truncateFile(disk.path() / "Quorvel1.dat", 0);
-    disk.fill();
-    boxes.answer(forms::Answer::no);
-    withNewProject([&](QWidget& window) {
-        choose(window, folder);
-        button(window, "Command2").click();
-        EXPECT_TRUE(window.isVisible());
-        EXPECT_TRUE(button(window, "Command2").isEnabled());
-    });
-    EXPECT_TRUE(shell->project().ProjectOpen);
-    EXPECT_EQ(shell->project().ProjectFileName, files.fileName);
-    EXPECT_TRUE(fs::is_empty(folder));
-}
-
-TEST_F(NewProject, EscapeDoesNotInterruptTheWork) {
-    begin();
-    withNewProject([&](QWidget& window) {
-        choose(window, projects.path());
-        boxes.whileShown = [&](const forms::Box&) {
-            EXPECT_FALSE(button(window, "Command2").isEnabled());
-            EXPECT_FALSE(button(window, "Command3").isEnabled());
-            EXPECT_TRUE(control<QLabel>(window, QStringLiteral("Label6")).isVisible());
-            QTest::keyClick(&window, Qt::Key_Escape);
-            window.close();
-            EXPECT_TRUE(window.isVisible());
-        };
-        fs::create_directory(projects / "resource");
-        button(window, "Command2").click();
-        EXPECT_EQ(boxes.shown().size(), 1U);
-        QTest::keyClick(&window, Qt::Key_Escape);
-        EXPECT_FALSE(window.isVisible());
-    });
 }
 
 TEST_F(NewProject, TheCodeIsWithinItsRange) {
@@ -429,6 +236,43 @@ TEST_F(NewProject, TheSystemMayEndTheEditorInTheMiddle) {
     }
     start({text(folder / "Project.qvl")});
     EXPECT_TRUE(shell->project().ProjectOpen) << boxes.texts().join(QLatin1Char('|')).toStdString();
+}
+
+class KilledNewProject : public NewProjectStage {
+  protected:
+    /// Leaves a project as it is when the computer fails before its first close.
+    fs::path kill() {
+        create(projects.makeFolder("first"));
+        shell->scene().header(store::HeaderString::SceneName) = "The harbour";
+        action(QStringLiteral("runmen(0)")).trigger();  // saves the scene
+        const fs::path killed = projects / "killed";
+        fs::copy(projects / "first", killed, fs::copy_options::recursive);
+        EXPECT_TRUE(shell->CloseProject());
+        return killed;
+    }
+};
+
+TEST_F(KilledNewProject, IsReportedInOneBox) {
+    begin();
+    const fs::path killed = kill();
+    EXPECT_FALSE(shell->openProject(text(killed / "Project.qvl")));
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_EQ(boxes.shown().front().title, QStringLiteral("Error loading project!"));
+    EXPECT_EQ(boxes.texts().front(), QStringLiteral(" Project Security Failure: Quorvel1.dat\n"
+                                                    " Project Security Failure: Quorvel2.dat\n"
+                                                    " Project Security Failure: Quorvel4.dat\n"));
+}
+
+TEST_F(KilledNewProject, OpensWithTheProjectFileOfAnother) {
+    begin();
+    const fs::path killed = kill();
+    create(projects.makeFolder("second"));
+    EXPECT_TRUE(shell->CloseProject());
+    fs::copy_file(projects / "second/Project.qvl", killed / "Project.qvl",
+                  fs::copy_options::overwrite_existing);
+    EXPECT_TRUE(shell->openProject(text(killed / "Project.qvl")));
+    EXPECT_EQ(shell->scene().header(store::HeaderString::SceneName), "The harbour");
+    EXPECT_EQ(boxes.texts(), QStringList());
 }
 
 }  // namespace
