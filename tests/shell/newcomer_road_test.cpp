@@ -1,5 +1,7 @@
 // The road of a newcomer, through the windows and with the real player on a virtual screen: a new
 // project, a second scene, pictures, a link, a HotSpot, a test run, closing, opening.
+#include <vector>
+
 #include <QDir>
 
 #include "objects/editor_author.h"
@@ -19,7 +21,7 @@ constexpr QSize kScreenSize(1000, 700);
 
 class NewcomerRoad : public EditorAuthor {
   protected:
-    ~NewcomerRoad() override { endPlayer(); }
+    ~NewcomerRoad() override { endPlayers(); }
 
     // What the newcomer does, a step each.
     void makeProject(const char* name) {
@@ -81,19 +83,19 @@ class NewcomerRoad : public EditorAuthor {
         control<QPushButton>(main(), QString::fromLatin1(arrow)).click();
     }
 
-    /// The player that a test run starts is a real one on `screen`.
+    /// The players that test runs start are real ones on `screen`.
     void playOn(const VirtualScreen& screen) {
         programs.whenRun = [this, &screen](const QString& program, const QStringList& arguments) {
-            player_ = screen.start(program, arguments);
-            return player_->waitForStarted();
+            players_.push_back(screen.start(program, arguments));
+            return players_.back()->waitForStarted();
         };
     }
-    void endPlayer() {
-        if (player_ != nullptr) {
-            player_->terminate();
-            player_->waitForFinished();
-            player_.reset();
+    void endPlayers() {
+        for (const auto& player : players_) {
+            player->terminate();
+            player->waitForFinished();
         }
+        players_.clear();
     }
     /// Where a point of the scene is on the virtual screen: the player's window is in its middle.
     static QPoint onScreen(QPoint inScene) {
@@ -108,7 +110,7 @@ class NewcomerRoad : public EditorAuthor {
     }
 
     TempFolder pictures;
-    std::unique_ptr<QProcess> player_;
+    std::vector<std::unique_ptr<QProcess>> players_;
 };
 
 TEST_F(NewcomerRoad, FromNothingToAGameThatRuns) {
@@ -136,8 +138,8 @@ TEST_F(NewcomerRoad, FromNothingToAGameThatRuns) {
     linkTo(3, 2);
 
     action(QStringLiteral("runmen(0)")).trigger();
-    ASSERT_NE(player_, nullptr) << "the player was started";
-    EXPECT_EQ(player_->program(), text(projects / "Game.exe"));
+    ASSERT_EQ(players_.size(), 1U) << "the player was started";
+    EXPECT_EQ(players_.front()->program(), text(projects / "Game.exe"));
     EXPECT_TRUE(screen.waitForColour(onScreen({350, 240}), QColor(kRed))) << "scene 1 is seen";
     keep(screen.picture(), "Road-scene-1.png");
     EXPECT_NE(screen.picture().pixelColor(onScreen({-20, 240})), QColor(kRed))
@@ -148,8 +150,8 @@ TEST_F(NewcomerRoad, FromNothingToAGameThatRuns) {
     screen.click(onScreen({50, 40}));
     EXPECT_TRUE(screen.waitForColour(onScreen({350, 240}), QColor(kRed)))
         << "the HotSpot leads back";
-    EXPECT_EQ(player_->state(), QProcess::Running);
-    endPlayer();
+    EXPECT_EQ(players_.front()->state(), QProcess::Running);
+    endPlayers();
 
     action(QStringLiteral("Filemen(3)")).trigger();
     EXPECT_FALSE(shell->project().ProjectOpen);
@@ -165,6 +167,32 @@ TEST_F(NewcomerRoad, FromNothingToAGameThatRuns) {
     EXPECT_EQ(shell->scene().header(store::HeaderString::SceneImage), "green.bmp");
     EXPECT_EQ(store::number(slot(1), store::HotSpot::TargetScene), 1);
     EXPECT_EQ(boxes.texts(), QStringList()) << "nothing on the road had to be told";
+}
+
+TEST_F(NewcomerRoad, ARepeatedTestRunShowsWhatWasChanged) {
+    const VirtualScreen screen(kScreenSize);
+    if (!screen.whyNot().isEmpty()) {
+        GTEST_SKIP() << screen.whyNot().toStdString();
+    }
+    playOn(screen);
+    start();
+    shell->settings().WrongFolder = 1;  // copy what lies elsewhere
+    makeProject("Again");
+    setPicture("red.bmp", kRed);
+    action(QStringLiteral("Toolbar1(25)")).trigger();
+    EXPECT_TRUE(screen.waitForColour(onScreen({350, 240}), QColor(kRed)));
+
+    setPicture("green.bmp", kGreen);
+    EXPECT_EQ(screen.picture().pixelColor(onScreen({350, 240})), QColor(kRed))
+        << "the game goes on with the old scene";
+    action(QStringLiteral("Toolbar1(25)")).trigger();
+    ASSERT_EQ(players_.size(), 2U);
+    EXPECT_TRUE(screen.waitForColour(onScreen({350, 240}), QColor(kGreen)));
+    for (const auto& player : players_) {
+        EXPECT_EQ(player->state(), QProcess::Running) << "no player stands in the way of another";
+    }
+    endPlayers();
+    EXPECT_EQ(boxes.texts(), QStringList());
 }
 
 }  // namespace
