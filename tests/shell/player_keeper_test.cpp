@@ -320,13 +320,53 @@ TEST_F(TestRun, AWindowsPlayerIsStartedThroughWine) {
     EXPECT_EQ(boxes.texts(), QStringList());
 }
 
+/// What `PATH` is while it lives.
+class SearchPath {
+  public:
+    explicit SearchPath(const fs::path& folder) : before_(qgetenv("PATH")) {
+        qputenv("PATH", QByteArray::fromStdString(folder.string()) + ":/usr/bin:/bin");
+    }
+    ~SearchPath() { qputenv("PATH", before_); }
+    SearchPath(const SearchPath&) = delete;
+    SearchPath& operator=(const SearchPath&) = delete;
+
+  private:
+    QByteArray before_;
+};
+
+TEST_F(TestRun, TheWineOfTheSystemGetsThePlayerAsItsOnlyArgument) {
+    begin(peBytes({.version = {9, 0, 0, 0}}));
+    const fs::path folder = projects.makeFolder("my programs");
+    writeBytes(folder / "wine",
+               "#!/bin/sh\nprintf '%s\\n' \"$0\" \"$#\" \"$@\" \"$PWD\" > \"$0.tmp\"\n"
+               "mv \"$0.tmp\" \"$0.out\"\n");
+    fs::permissions(folder / "wine", fs::perms::owner_all);
+    const SearchPath path(folder);
+    resources::SystemPrograms real;
+    programs.installed[QStringLiteral("wine")] = real.find(QStringLiteral("wine"));
+    programs.whenRun = [&](const QString& program, const QStringList& arguments) {
+        return real.run(program, arguments, programs.folders.back());
+    };
+    action(QStringLiteral("runmen(0)")).trigger();
+    ASSERT_TRUE(waitUntil([&] { return fs::exists(folder / "wine.out"); }));
+    EXPECT_EQ(readBytes(folder / "wine.out"), (folder / "wine").string() + "\n1\n" +
+                                                  playerFile().string() + "\n" +
+                                                  projects.path().string() + "\n");
+    EXPECT_EQ(boxes.texts(), QStringList());
+}
+
 TEST_F(TestRun, AWindowsPlayerWithoutWineIsTold) {
     begin(peBytes({.version = {9, 0, 0, 0}}));
     action(QStringLiteral("runmen(0)")).trigger();
     EXPECT_EQ(programs.started, QStringList());
-    EXPECT_EQ(boxes.texts(),
-              QStringList{QStringLiteral(
-                  "Could not run the Player.  Please check the filename and try again.")});
+    action(QStringLiteral("Toolbar1(25)")).trigger();
+    EXPECT_EQ(programs.started, QStringList());
+    EXPECT_EQ(
+        boxes.texts(),
+        (QStringList{
+            QStringLiteral("Could not run the Player.  Please check the filename and try again."),
+            QStringLiteral("Could not run the Player.  Please check the filename in "
+                           "'General Game Settings' and try again.")}));
 }
 #endif
 
