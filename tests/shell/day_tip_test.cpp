@@ -11,6 +11,7 @@
 #include <QSettings>
 #include <QTest>
 
+#include "support/mounts.h"
 #include "support/windows/shell_fixture.h"
 
 namespace quorvel::test {
@@ -174,6 +175,28 @@ TEST_F(DayTips, TheCheckBoxStoresAtOnce) {
         tip.close();
     });
     EXPECT_EQ(stored("TOTD"), QStringLiteral("Yes"));
+}
+
+TEST_F(DayTips, SettingsThatCannotBeWrittenAreToldAndTheTipsGoOn) {
+    store("Yes", 3);
+    start();
+    const ReadOnlyMount disc(home.path());
+    if (!disc.isMounted()) {
+        GTEST_SKIP() << disc.whyNot();
+    }
+    click(*window(), "cmdNextTip");
+    click(*window(), "cmdOK");
+    EXPECT_EQ(window(), nullptr) << "the window closes all the same";
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_TRUE(boxes.texts().front().startsWith(
+        QStringLiteral("The settings of the editor could not be saved:")));
+    fromMenu([](QWidget& tip) {
+        EXPECT_EQ(shownTip(tip), 6);
+        atStartup(tip).click();
+        tip.close();
+    });
+    EXPECT_EQ(boxes.shown().size(), 1U) << "told once";
+    EXPECT_EQ(shell->settings().TipsAtStart, QStringLiteral("No"));
 }
 
 TEST_F(DayTips, TheMenuShowsItModally) {

@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include "forms/guide.h"
+#include "support/mounts.h"
 #include "support/windows/shell_fixture.h"
 
 namespace quorvel::test {
@@ -239,6 +240,35 @@ TEST_F(QuickTips, AValueThatIsNotOneCountsAsUnset) {
     startWithoutDayTip();
     show(7, [](QWidget& window) { ok(window); });
     show(8, [](QWidget& window) { ok(window); });
+}
+
+TEST_F(QuickTips, SettingsThatCannotBeWrittenAreToldAndTheTipStaysOffForNow) {
+    startWithoutDayTip();
+    const ReadOnlyMount disc(home.path());
+    if (!disc.isMounted()) {
+        GTEST_SKIP() << disc.whyNot();
+    }
+    show(5, [this](QWidget& window) {
+        box(window, "NoMoreTip").click();
+        ok(window);
+        EXPECT_FALSE(window.isVisible());
+        EXPECT_EQ(boxes.shown().size(), 1U);
+    });
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_TRUE(boxes.texts().front().startsWith(
+        QStringLiteral("The settings of the editor could not be saved:\n\n") +
+        text(home / "TessaroonWorks/Quorvel.conf")))
+        << boxes.texts().front().toStdString();
+    EXPECT_TRUE(isSilent([this] { shell->ShowQuickTip(5); }));
+    show(6, [](QWidget& window) {
+        box(window, "TipsOFF").click();
+        ok(window);
+    });
+    EXPECT_TRUE(isSilent([this] { shell->ShowQuickTip(6); }));
+    EXPECT_EQ(boxes.shown().size(), 2U) << "told once; the other is that of the check";
+    shell->settings().RestoreQuickTips();
+    show(5, [](QWidget& window) { ok(window); });
+    EXPECT_EQ(boxes.shown().size(), 2U);
 }
 
 // Who shows them
