@@ -30,6 +30,15 @@ TEST_P(DeliveredTexts, CanBeReadOnWindowsAsTheyAre) {
     EXPECT_EQ(store::encodeText(store::decodeText(bytes)), bytes);
 }
 
+TEST_P(DeliveredTexts, PromiseNothingThatThisPlayerCannotDo) {
+    const std::string bytes =
+        readBytes(std::filesystem::path(QUORVEL_PLAYER).parent_path() / GetParam());
+    for (const char* word : {"inventory", "carry", "item", "sound", "speaker", "music", "movie",
+                             "talk", "save", "load", "menu", "travel"}) {
+        EXPECT_EQ(bytes.find(word), std::string::npos) << word;
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(All, DeliveredTexts, ::testing::Values("ReadMe.txt", "Manual.txt"));
 
 }  // namespace
