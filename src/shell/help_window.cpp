@@ -32,7 +32,7 @@ constexpr QSize kSize(784, 540);
 /// Indentation, scroll bar and frame beside a title of the contents.
 constexpr int kBesideTitle = 60;
 constexpr int kIconSize = 20;
-constexpr int kRowPadding = 5;
+constexpr int kRowPadding = 4;
 constexpr int kFileRole = Qt::UserRole;
 
 }  // namespace
@@ -110,15 +110,20 @@ QWidget* HelpWindow::buildContents() {
     contents_->setAccessibleName(QStringLiteral("Contents"));
     contents_->setHeaderHidden(true);
     contents_->setRootIsDecorated(true);
+    const QSize rowSize(0, fontMetrics().height() + kRowPadding);
     QTreeWidgetItem* group = nullptr;
     for (const forms::HelpPage& page : forms::helpPages()) {
         const QString name = QString::fromLatin1(page.group);
         if (group == nullptr || group->text(0) != name) {
             group = new QTreeWidgetItem(contents_, {name});
+            QFont bold = contents_->font();
+            bold.setBold(true);
+            group->setFont(0, bold);
+            group->setSizeHint(0, rowSize);
         }
         auto* item = new QTreeWidgetItem(group, {QString::fromLatin1(page.title)});
         item->setData(0, kFileRole, QString::fromLatin1(page.file));
-        item->setSizeHint(0, QSize(0, fontMetrics().height() + kRowPadding));
+        item->setSizeHint(0, rowSize);
     }
     contents_->expandAll();
     connect(contents_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
@@ -148,7 +153,10 @@ QWidget* HelpWindow::buildPage() {
     page_->document()->setDocumentMargin(forms::kFormMargin);
     // Inside the document headings and lists take their sizes from its own style.
     page_->document()->setDefaultStyleSheet(QStringLiteral(
-        "h1 { font-size: x-large; } h2 { font-size: large; } p, li, dd { line-height: 125%; }"));
+        "h1 { font-size: x-large; } h2 { font-size: large; } p, li, dd { line-height: 125%; } "
+        "dt { margin-top: 6px; } "
+        "table { border-collapse: collapse; border-color: gray; margin-top: 8px; } "
+        ".caption { font-style: italic; margin-top: 4px; margin-bottom: 14px; }"));
     connect(page_, &QTextBrowser::anchorClicked, this, &HelpWindow::followLink);
     connect(page_, &QTextBrowser::sourceChanged, this, &HelpWindow::pageChanged);
     connect(page_, &QTextBrowser::backwardAvailable, back_, &QToolButton::setEnabled);

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -99,16 +100,22 @@ TEST(HelpPages, EachPageIsReachedByLinksFromTheFirst) {
 
 TEST(HelpPages, EachPictureIsThereFitsAndIsUsed) {
     constexpr int kWidest = 480;
+    constexpr int kLargest = 140 * 1024;
     std::set<QString> used;
     for (const HelpPage& page : forms::helpPages()) {
         const QString html = htmlOf(page);
         const QStringList pictures = caught(html, "<img\\s+src=\"([^\"]*)\"\\s+alt=\"[^\"]+\">");
         EXPECT_EQ(pictures.size(), html.count(QStringLiteral("<img")))
             << page.file << ": a picture without a text for those who cannot see it";
+        EXPECT_EQ(pictures.size(),
+                  caught(html, "<img[^>]*></div>\n<div class=\"caption\">([^<]+)</div>").size())
+            << page.file << ": a picture without a caption";
         for (const QString& picture : pictures) {
             const QImage image(pagesOfTheSource().filePath(picture));
             EXPECT_FALSE(image.isNull()) << page.file << ": " << picture.toStdString();
             EXPECT_LE(image.width(), kWidest) << picture.toStdString();
+            EXPECT_LE(QFileInfo(pagesOfTheSource().filePath(picture)).size(), kLargest)
+                << picture.toStdString();
             used.insert(picture);
         }
     }
