@@ -1,8 +1,11 @@
 // Making a new project through its window.
+#include <QApplication>
 #include <QComboBox>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSet>
 #include <QTimer>
 
 #include "shell/new_project_stage.h"
@@ -154,6 +157,31 @@ TEST_F(NewProject, TheProjectIsOpenAsEveryOther) {
     EXPECT_EQ(shell->settings().RecentProj[0], text(projects / "Project.qvl"));
     EXPECT_TRUE(action(QStringLiteral("Filemen(9)")).isEnabled());
     EXPECT_EQ(reader->tips, std::vector<int>{7});
+}
+
+/// Notes the names of all windows that are shown while it lives.
+class ShownWindows : public QObject {
+  public:
+    ShownWindows() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Show && watched->isWidgetType() &&
+            static_cast<QWidget*>(watched)->isWindow()) {
+            names.insert(watched->objectName());
+        }
+        return false;
+    }
+    QSet<QString> names;
+};
+
+TEST_F(NewProject, ItOpensWithoutTheProgressWindow) {
+    begin();
+    const ShownWindows shown;
+    create(projects.path());
+    EXPECT_TRUE(shown.names.contains(QStringLiteral("NewProject")));
+    EXPECT_FALSE(shown.names.contains(QStringLiteral("OpenProj")));
+    EXPECT_TRUE(shell->CloseProject());
+    EXPECT_TRUE(shell->openProject(text(projects / "Project.qvl")));
+    EXPECT_TRUE(shown.names.contains(QStringLiteral("OpenProj"))) << "as any other does";
 }
 
 TEST_F(NewProject, ItClosesAndOpensAgain) {
