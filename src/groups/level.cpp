@@ -1,5 +1,6 @@
 #include "groups/level.h"
 
+#include <QSignalBlocker>
 #include <QWheelEvent>
 
 #include "store/numbers.h"
@@ -38,13 +39,9 @@ Level::Level(const QString& slider, const QString& box, const QString& spoken,
     box_->setFocusPolicy(Qt::NoFocus);
     box_->setAlignment(Qt::AlignRight);
     box_->setFixedWidth(box_->fontMetrics().horizontalAdvance(QStringLiteral("-40000")) + 8);
-    connect(slider_, &QSlider::valueChanged, this, [this](int value) {
-        box_->setText(QString::number(value));
-        Q_EMIT moved(value);
-    });
+    connect(slider_, &QSlider::valueChanged, this, &Level::followSlider);
     setRange(range);
-    slider_->setValue(0);
-    box_->setText(QString::number(slider_->value()));
+    show(0);
     setEnabled(false);
 }
 
@@ -52,8 +49,28 @@ int Level::value() const {
     return store::valInt(box_->text().toStdString());
 }
 
+void Level::show(int stored) {
+    const QSignalBlocker quiet(slider_);
+    slider_->setValue(stored);
+    box_->setText(QString::number(stored));
+}
+
+void Level::setValue(int value) {
+    slider_->setValue(value);
+    followSlider();  // the slider may have stood there already, beside another value in the box
+}
+
+void Level::followSlider() {
+    const int now = slider_->value();
+    if (value() != now) {
+        box_->setText(QString::number(now));
+        Q_EMIT moved(now);
+    }
+}
+
 void Level::setRange(const LevelRange& range) {
     slider_->setRange(range.lowest, range.highest);
+    followSlider();
     slider_->setTickInterval(range.tick);
     slider_->setPageStep(range.tick);
     slider_->setSingleStep(range.tick >= 100 ? range.tick / 8 : 1);

@@ -18,6 +18,10 @@ inline constexpr LevelRange kWavVolume{-4000, 0, 160, "-4000 to 0 (Full Volume)"
 inline constexpr LevelRange kMovieVolume{0, 100, 5, "0 to 100 (Full Volume)"};
 inline constexpr LevelRange kPan{-4000, 4000, 160, "-4000 to 4000"};
 
+/// The box is what counts. It shows where the slider stands, but for a value that was stored
+/// outside the range, as damaged records hold: the box shows that as it is and the slider stands at
+/// its nearest, until the author moves the slider or takes another kind of file.
+///
 /// Slider and box are made here and put into a layout by whoever has the level.
 class Level : public QObject {
     Q_OBJECT
@@ -30,16 +34,21 @@ class Level : public QObject {
 
     /// The value that the box shows.
     [[nodiscard]] int value() const;
-    /// The nearest value of the range.
-    void setValue(int value) { slider_->setValue(value); }
+    /// Shows a stored value, whatever the range. Says nothing.
+    void show(int stored);
+    /// Moves the slider to the nearest value of the range; the box follows.
+    void setValue(int value);
+    /// A value outside the new range is left for the nearest one in it.
     void setRange(const LevelRange& range);
     void setEnabled(bool enabled);
 
   Q_SIGNALS:
-    /// The slider has moved, by whom ever.
+    /// The value has changed, by whom ever.
     void moved(int value);
 
   private:
+    void followSlider();
+
     QSlider* slider_;
     QLineEdit* box_;
 };

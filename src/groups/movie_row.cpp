@@ -102,6 +102,7 @@ void MovieRow::followFile() {
     }
     const bool any = !file->text().isEmpty();
     playButton_->setEnabled(any);
+    volume->setRange(kMovieVolume);
     volume->setEnabled(any);
 }
 

@@ -143,14 +143,14 @@ void Sheet::bind(const NumberRef& field, OptionGroup* options) {
 void Sheet::bind(const NumberRef& field, Level* level) {
     bind(std::make_unique<NumberBinding>(
         field, NumberFace{.control = level->slider(),
-                          .show = [level](int value) { level->setValue(value); },
+                          .show = [level](int value) { level->show(value); },
                           .value = [level]() -> std::optional<int> { return level->value(); }}));
 }
 
 void Sheet::bindMovieVolume(const NumberRef& field, Level* level) {
     bind(std::make_unique<NumberBinding>(
         field, NumberFace{.control = level->slider(),
-                          .show = [level](int value) { level->setValue(value); },
+                          .show = [level](int value) { level->show(value); },
                           .value = [level]() -> std::optional<int> { return level->value(); },
                           .reading =
                               [field](int stored) {

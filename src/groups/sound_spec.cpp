@@ -64,7 +64,10 @@ QPushButton* SoundSpec::panButton(const char* name, const char* caption, const c
     auto* button = makeSmallButton(element(name, k_), caption, QString::fromLatin1(spoken),
                                    playButton_->parentWidget());
     button->setToolTip(QString::fromLatin1(spoken));
-    connect(button, &QPushButton::clicked, this, [this, value] { pan->setValue(value); });
+    connect(button, &QPushButton::clicked, this, [this, value] {
+        pan->setValue(value);
+        sheet_.touch();
+    });
     return button;
 }
 

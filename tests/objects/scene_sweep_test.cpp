@@ -100,11 +100,11 @@ class SceneSweep : public EditorAuthor, public ::testing::WithParamInterface<uns
         add("FlagID(1)", {"SetFlagId", "SetFlagOn"});
         add("Text3(1)", {"SetFlagValue", "SetFlagOn"});
         add("Check3", {"SetFlagAdd", "SetFlagOn"});
-        add("MEN(4)", {"EnterMovie"});
-        add("LME(4)", {"EnterMovie"});
+        add("MEN(4)", {"EnterMovie", "EnterVolume"});
+        add("LME(4)", {"EnterMovie", "EnterVolume"});
         add("Hscroll1(4)", {"EnterVolume"});
-        add("MEN(5)", {"ExitMovie"});
-        add("LME(5)", {"ExitMovie"});
+        add("MEN(5)", {"ExitMovie", "ExitVolume"});
+        add("LME(5)", {"ExitMovie", "ExitVolume"});
         add("Hscroll1(5)", {"ExitVolume"});
         add("MidiFile", {"Soundtrack", "SoundtrackVolume"});
         add("locatebutton(1)", {"Soundtrack", "SoundtrackVolume"});
