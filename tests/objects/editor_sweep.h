@@ -1,144 +1,86 @@
 /// Goes over all controls of a property window: what each of them changes, and what it leaves.
+///
+/// A window is swept when it has a function that tells about it, `SweptWindow`, and a line in the
+/// list of `editor_sweep_test.cpp`.
 #pragma once
 
-#include <map>
-#include <random>
-#include <set>
-
 #include "objects/editor_author.h"
+#include "objects/random_records.h"
+#include "objects/sweep_table.h"
 
 namespace quorvel::test {
 
-/// The fields of a record by name, as text.
-using Fields = std::map<std::string, std::string>;
-
-/// The names of the fields whose values differ.
-inline std::set<std::string> differing(const Fields& a, const Fields& b) {
-    std::set<std::string> names;
-    for (const auto& [name, value] : a) {
-        if (b.at(name) != value) {
-            names.insert(name);
-        }
-    }
-    return names;
+inline Fields asTheyAre(Fields fields) {
+    return fields;
 }
 
-/// A window and the record that it edits.
+/// A window over a record of random content.
 struct SweptWindow {
+    /// Opens the window and lets the author act in it.
     std::function<void(const std::function<void(const Hand&)>&)> open;
+    /// The record as it is now, and all else that is open for writing beside it.
     std::function<Fields()> fields;
+    std::function<std::string()> others;
     /// Puts the record back to what is swept.
     std::function<void()> reset;
-    /// What the window itself makes of such a record when anything of it is saved.
-    std::function<Fields(Fields)> settled;
-    /// What a change of a control changes: the field of the control first, then those that follow
-    /// it. A control that is not named here must not be there.
-    std::map<QString, std::vector<std::string>> table;
-    const char* ok;
-    const char* cancel;
+    /// What opening the window makes of the fields by itself.
+    std::function<Fields(Fields)> opened = asTheyAre;
+    /// What every save makes of them, whatever was changed.
+    std::function<Fields(Fields)> settled = asTheyAre;
+    SweepTable table;
+    /// Apply and Cancel are empty for a window that writes at once.
+    struct Buttons {
+        std::string apply = {};
+        std::string cancel = {};
+        std::string ok;
+        std::string help;
+    } buttons;
 };
 
-/// Controls that the author can change now, on any page.
-inline QStringList changeable(const Hand& hand) {
-    QStringList names;
-    auto* pages = hand.window().findChild<QTabBar*>(QStringLiteral("Pages"));
-    for (int page = 0; page < (pages == nullptr ? 1 : pages->count()); ++page) {
-        if (pages != nullptr) {
-            pages->setCurrentIndex(page);
-        }
-        for (const QWidget* widget : hand.window().findChildren<QWidget*>()) {
-            const auto* edit = qobject_cast<const QLineEdit*>(widget);
-            const auto* radio = qobject_cast<const QRadioButton*>(widget);
-            const bool value = edit != nullptr && edit->focusPolicy() == Qt::NoFocus;
-            const bool control = edit != nullptr || qobject_cast<const QSlider*>(widget) ||
-                                 qobject_cast<const QComboBox*>(widget) ||
-                                 qobject_cast<const QAbstractButton*>(widget);
-            if (control && !value && widget->isEnabled() && widget->isVisible() &&
-                !widget->objectName().isEmpty() && !widget->objectName().startsWith(u"qt_") &&
-                (radio == nullptr || !radio->isChecked())) {
-                names << widget->objectName();
-            }
-        }
-    }
-    names.removeDuplicates();
-    return names;
-}
+/// The project of a sweep, with something to choose for every control: four scenes, three items,
+/// locations and cards, pictures and media of two names each; an object in slot 7, and others.
+class SweepStage : public EditorAuthor {
+  public:
+    SweepStage();
 
-/// Changes one control as an author does.
-inline void change(const Hand& hand, const QString& name) {
-    auto& widget = control<QWidget>(hand.window(), name);
-    if (auto* list = qobject_cast<QComboBox*>(&widget)) {
-        const int other = (std::max(list->currentIndex(), 0) + 1) % list->count();
-        list->setCurrentIndex(other);
-        Q_EMIT list->activated(other);
-    } else if (auto* slider = qobject_cast<QSlider*>(&widget)) {
-        slider->setValue(slider->value() > slider->minimum() ? slider->value() - 1
-                                                             : slider->maximum());
-    } else if (auto* edit = qobject_cast<QLineEdit*>(&widget)) {
-        if (edit->isReadOnly()) {
-            QTest::mouseDClick(edit, Qt::LeftButton);
-        } else {
-            edit->setFocus();
-            edit->selectAll();
-            const QString now = edit->text();
-            QTest::keyClicks(
-                edit, now == QStringLiteral("31") ? QStringLiteral("32") : QStringLiteral("31"));
-        }
-    } else {
-        control<QAbstractButton>(hand.window(), name).click();
-    }
-}
+    using EditorAuthor::boxes;
+    using EditorAuthor::editLink;
+    using EditorAuthor::editObject;
+    using EditorAuthor::editScene;
+    using EditorAuthor::main;
+    using EditorAuthor::scene;
+    using EditorAuthor::slot;
 
-/// `leaveOut`: buttons that change nothing by themselves.
-inline void sweep(const SweptWindow& window, const QStringList& leaveOut) {
-    window.reset();
-    const Fields before = window.fields();
-    const Fields settled = window.settled(before);
-    QStringList names;
-    window.open([&](const Hand& hand) {
-        names = changeable(hand);
-        hand.click(window.ok);
-        EXPECT_FALSE(hand.window().isVisible());
-    });
-    EXPECT_TRUE(differing(before, window.fields()).empty()) << "OK without a change";
-    for (const QString& name : names) {
-        if (leaveOut.contains(name)) {
-            continue;
-        }
-        SCOPED_TRACE(name.toStdString());
-        const auto row = window.table.find(name);
-        if (row == window.table.end()) {
-            ADD_FAILURE() << "no row in the table";
-            continue;
-        }
-        window.reset();
-        window.open([&](const Hand& hand) {
-            change(hand, name);
-            hand.click(window.cancel);
-        });
-        EXPECT_TRUE(differing(before, window.fields()).empty()) << "Cancel changes nothing";
+    static constexpr int kSlot = 7;
+    static constexpr int kScenes = 4;
 
-        window.reset();
-        QString shown;
-        window.open([&](const Hand& hand) {
-            const auto* edit = hand.window().findChild<QLineEdit*>(name);
-            const bool wasEmpty = edit != nullptr && edit->text().isEmpty();
-            change(hand, name);
-            if (!wasEmpty) {
-                shown = name;
-            }
-            hand.click(window.ok);
-            EXPECT_FALSE(hand.window().isVisible());
-        });
-        std::set<std::string> changed = differing(settled, window.fields());
-        const std::set<std::string> may(row->second.begin(), row->second.end());
-        for (const std::string& field : changed) {
-            EXPECT_TRUE(may.contains(field)) << "changes " << field;
-        }
-        if (!shown.isEmpty()) {
-            EXPECT_TRUE(changed.contains(row->second.front())) << "does not change its field";
-        }
-    }
-}
+    /// The whole scene in memory as bytes, but for what `blank` makes the same.
+    std::string sceneBytes(const std::function<void(store::Scene&)>& blank);
+
+  protected:
+    /// OK without a change leaves every byte; so does Cancel after a change; and OK after a change
+    /// of one control changes what the table says, and nothing else. Of a list the entries on both
+    /// sides are picked.
+    void sweep(const SweptWindow& window);
+    /// Every input control of the window stands in the table, and the table names no other.
+    static void expectCovered(const SweptWindow& window);
+    /// A change that the author makes: of a list to the next entry or to the one before.
+    struct Move {
+        std::string control;
+        bool back = false;
+    };
+    /// The changes of controls in the table that the author can make in this record.
+    static std::vector<Move> moves(const SweptWindow& window);
+
+  private:
+    void leavesAll(const SweptWindow& window, const std::string& button, const Move* move);
+    void changesItsField(const SweptWindow& window, const Move& move);
+    void make(const Hand& hand, const Move& move, const Effect& effect);
+};
+
+// The windows, each over a record of `dice`.
+SweptWindow sweptLink(SweepStage& stage, Dice& dice, store::LinkSide side);
+SweptWindow sweptHotSpot(SweepStage& stage, Dice& dice);
+SweptWindow sweptScene(SweepStage& stage, Dice& dice);
 
 }  // namespace quorvel::test
