@@ -1,6 +1,7 @@
 /// An author at a property window of the real editor.
 #pragma once
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -11,6 +12,7 @@
 #include <QSlider>
 #include <QTabBar>
 #include <QTest>
+#include <QWheelEvent>
 
 #include "groups/picture_box.h"
 #include "support/gif_bytes.h"
@@ -58,6 +60,39 @@ class Hand {
     void doubleClick(const char* name) const {
         QTest::mouseDClick(&get<QWidget>(name), Qt::LeftButton);
     }
+    /// Turns the wheel over a control by one notch, towards the author.
+    void turnWheel(const char* name) const {
+        auto& widget = get<QWidget>(name);
+        const QPointF at(5, 5);
+        QWheelEvent wheel(at, widget.mapToGlobal(at), {}, QPoint(0, -120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&widget, &wheel);
+    }
+    /// Leaves the window by Escape or by its title bar.
+    void leave(bool byKey) const {
+        if (byKey) {
+            QTest::keyClick(&window_, Qt::Key_Escape);
+        } else {
+            window_.close();
+        }
+        EXPECT_FALSE(window_.isVisible());
+    }
+    /// Each text is the caption of something in the window, to the last blank.
+    void expectTexts(std::initializer_list<const char*> texts) const {
+        QStringList captions;
+        for (const QWidget* widget : window_.findChildren<QWidget*>()) {
+            if (const auto* group = qobject_cast<const QGroupBox*>(widget)) {
+                captions << group->title();
+            } else if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
+                captions << button->text();
+            } else if (const auto* label = qobject_cast<const QLabel*>(widget)) {
+                captions << label->text();
+            }
+        }
+        for (const char* text : texts) {
+            EXPECT_TRUE(captions.contains(QString::fromLatin1(text))) << text;
+        }
+    }
     /// Shows page `number` of a window that has pages, from 0.
     void turnTo(int number) const { get<QTabBar>("Pages").setCurrentIndex(number); }
 
@@ -80,34 +115,32 @@ class EditorAuthor : public ShellFixture {
                 Q_EMIT shell->actions().popups().chosen(canvas::PopupMenu::link,
                                                         canvas::PopupAction::properties);
             },
-            [&](QWidget& window) {
-                author(Hand(window));
-                if (window.isVisible()) {
-                    window.close();
-                }
-            });
+            actedBy(author));
     }
     /// Opens the properties of object `k` from its pop-up menu's entry.
     void editObject(int k, const QString& window, const std::function<void(const Hand&)>& author) {
         shell->actions().PopupObject = k;
         withWindow(
             window, [this, k] { shell->actions().ShowObjectProps(slot(k).SlotInt(1)); },
-            [&](QWidget& shown) {
-                author(Hand(shown));
-                if (shown.isVisible()) {
-                    shown.close();
-                }
-            });
+            actedBy(author));
     }
     void editScene(const std::function<void(const Hand&)>& author) {
         withWindow(
             QStringLiteral("sceneimage"), [this] { action(QStringLiteral("scnmen(1)")).trigger(); },
-            [&](QWidget& shown) {
-                author(Hand(shown));
-                if (shown.isVisible()) {
-                    shown.close();
-                }
-            });
+            actedBy(author));
+    }
+    /// As `editScene`, on the page of movies and sounds.
+    void editSceneMedia(const std::function<void(const Hand&)>& author) {
+        editScene([&](const Hand& hand) {
+            hand.turnTo(1);
+            heard();
+            author(hand);
+        });
+    }
+    /// Chooses a file of resource/mmedia by the button that asks for one.
+    void choose(const Hand& hand, const char* button, const char* file) {
+        dialogs.choice = text(files.mmedia(file));
+        hand.click(button);
     }
     store::Scene& scene() { return shell->scene(); }
     store::ObjectSlot& slot(int k) { return shell->scene().slot(k); }
@@ -130,7 +163,27 @@ class EditorAuthor : public ShellFixture {
         return orders;
     }
 
+    /// Orders to the preview, to compare with what was heard.
+    static QStringList orders(std::initializer_list<const char*> orders) {
+        QStringList texts;
+        for (const char* order : orders) {
+            texts << QString::fromLatin1(order);
+        }
+        return texts;
+    }
+
     TestProject files;
+
+  private:
+    /// What the author does in a window, which is closed then if it still stands.
+    static std::function<void(QWidget&)> actedBy(const std::function<void(const Hand&)>& author) {
+        return [&author](QWidget& window) {
+            author(Hand(window));
+            if (window.isVisible()) {
+                window.close();
+            }
+        };
+    }
 };
 
 }  // namespace quorvel::test

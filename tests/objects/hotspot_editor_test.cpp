@@ -40,64 +40,52 @@ TEST_F(HotSpotEditor, AFreshHotSpotShowsItsDefaults) {
 TEST_F(HotSpotEditor, SaysTheWholeOfItsTexts) {
     openGame();
     edit([](const Hand& hand) {
-        QStringList texts;
-        for (const QWidget* widget : hand.window().findChildren<QWidget*>()) {
-            if (const auto* group = qobject_cast<const QGroupBox*>(widget)) {
-                texts << group->title();
-            } else if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
-                texts << button->text();
-            } else if (const auto* label = qobject_cast<const QLabel*>(widget)) {
-                texts << label->text();
-            }
-        }
-        for (const char* text :
-             {"Object Image",
-              "HotSpot Style",
-              "ImageSpot  (Use Image)",
-              "QuickSpot  (No Image)",
-              "Height >",
-              "Width >",
-              "Animation Style (Applies only if object is animated)",
-              "Looping",
-              "Ping-Pong",
-              "Responsive",
-              "Click Control",
-              "Can only be clicked once (per scene view)",
-              "Link To:",
-              "Scene",
-              "Map",
-              "Mousepointer",
-              "Visibility",
-              "Always visible",
-              "Visible when:",
-              "Flag",
-              "Set Flag",
-              "Set Flag (Occurs immediately when link is clicked)",
-              "ADD value to flag",
-              "Sound Effects (Loops until player clicks on the HotSpot)",
-              "Success Sound (Played when player successfully clicks on the HotSpot)",
-              "Requires an Item",
-              "Requires an item ",
-              "Item required >",
-              "Player keeps this item",
-              "Failure Sound - No Item (Played only when player tries clicking without an item)",
-              "Grouping >",
-              "Apply",
-              "Cancel",
-              "OK",
-              "Help",
-              "Wav File >",
-              "Vol >",
-              "Pan >",
-              "Wav Ch>",
-              "L",
-              "C",
-              "R",
-              "...",
-              ">",
-              "Object Index #"}) {
-            EXPECT_TRUE(texts.contains(QString::fromLatin1(text))) << text;
-        }
+        hand.expectTexts(
+            {"Object Image",
+             "HotSpot Style",
+             "ImageSpot  (Use Image)",
+             "QuickSpot  (No Image)",
+             "Height >",
+             "Width >",
+             "Animation Style (Applies only if object is animated)",
+             "Looping",
+             "Ping-Pong",
+             "Responsive",
+             "Click Control",
+             "Can only be clicked once (per scene view)",
+             "Link To:",
+             "Scene",
+             "Map",
+             "Mousepointer",
+             "Visibility",
+             "Always visible",
+             "Visible when:",
+             "Flag",
+             "Set Flag",
+             "Set Flag (Occurs immediately when link is clicked)",
+             "ADD value to flag",
+             "Sound Effects (Loops until player clicks on the HotSpot)",
+             "Success Sound (Played when player successfully clicks on the HotSpot)",
+             "Requires an Item",
+             "Requires an item ",
+             "Item required >",
+             "Player keeps this item",
+             "Failure Sound - No Item (Played only when player tries clicking without an item)",
+             "Grouping >",
+             "Apply",
+             "Cancel",
+             "OK",
+             "Help",
+             "Wav File >",
+             "Vol >",
+             "Pan >",
+             "Wav Ch>",
+             "L",
+             "C",
+             "R",
+             "...",
+             ">",
+             "Object Index #"});
         EXPECT_EQ(hand.box("SV(1)").toolTip(), QStringLiteral("-4000 to 0 (Full Volume)"));
         EXPECT_EQ(hand.box("SP(2)").toolTip(), QStringLiteral("-4000 to 4000"));
         EXPECT_EQ(hand.button("LSE(3)").toolTip(), QStringLiteral("Locate"));

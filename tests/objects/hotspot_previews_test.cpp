@@ -157,12 +157,7 @@ TEST_F(HotSpotPreviews, EscapeAndTheTitleBarStopWhatPlaysAndStoreNothing) {
             hand.click("Playwav(1)");
             hand.doubleClick("SE(2)");
             heard();
-            if (byKey) {
-                QTest::keyClick(&hand.window(), Qt::Key_Escape);
-            } else {
-                hand.window().close();
-            }
-            EXPECT_FALSE(hand.window().isVisible());
+            hand.leave(byKey);
             EXPECT_EQ(hand.button("Playwav(1)").text(), QStringLiteral(">"));
         });
         const QStringList stopped = heard();

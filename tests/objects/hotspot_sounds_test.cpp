@@ -30,13 +30,6 @@ class HotSpotSounds : public EditorAuthor {
             author(hand);
         });
     }
-    static QStringList orders(std::initializer_list<const char*> orders) {
-        QStringList texts;
-        for (const char* order : orders) {
-            texts << QString::fromLatin1(order);
-        }
-        return texts;
-    }
 };
 
 TEST_F(HotSpotSounds, TheLoopingSoundIsSwitchedOnAndOff) {

@@ -35,10 +35,6 @@ class Levels : public EditorAuthor {
             hand.click("Command6");
         });
     }
-    void choose(const Hand& hand, const char* button, const char* file) {
-        dialogs.choice = text(files.mmedia(file));
-        hand.click(button);
-    }
     int volume() { return store::number(slot(1), HotSpot::SoundVolume); }
     int pan() { return store::number(slot(1), HotSpot::SoundPan); }
 };

@@ -57,11 +57,7 @@ TEST_F(LinkEditor, AWheelTurnedOverAListInPassingChangesNothing) {
     editLink(1, [&](const Hand& hand) {
         QComboBox& list = hand.list("combo2");
         hand.get<QComboBox>("Combo1").setFocus();
-        const auto turn = [&list] {
-            QWheelEvent wheel(QPointF(5, 5), list.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120),
-                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-            QApplication::sendEvent(&list, &wheel);
-        };
+        const auto turn = [&hand] { hand.turnWheel("combo2"); };
         turn();
         EXPECT_EQ(list.currentIndex(), 0);
         EXPECT_TRUE(scene() == before);

@@ -42,44 +42,32 @@ TEST_F(SceneEditor, ShowsTheSceneAndSaysTheWholeOfItsTexts) {
         EXPECT_EQ(hand.picture("Image1").picture()->size(), QSize(70, 50));
         EXPECT_FALSE(hand.button("Command1").isEnabled());
         EXPECT_FALSE(hand.button("RestoreIt").isVisible());
-        QStringList texts;
-        for (const QWidget* widget : hand.window().findChildren<QWidget*>()) {
-            if (const auto* group = qobject_cast<const QGroupBox*>(widget)) {
-                texts << group->title();
-            } else if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
-                texts << button->text();
-            } else if (const auto* label = qobject_cast<const QLabel*>(widget)) {
-                texts << label->text();
-            }
-        }
-        for (const char* text : {"Scene #",
-                                 "Internal Name >",
-                                 "Scene Image",
-                                 "...",
-                                 "Check Flag",
-                                 "If Flag",
-                                 "then switch to scene",
-                                 "Set Flag",
-                                 kSetFlag,
-                                 "Flag",
-                                 "Value",
-                                 "ADD value to flag",
-                                 "Movies",
-                                 "Enter >",
-                                 "Exit >",
-                                 "Vol >",
-                                 "Soundtrack",
-                                 "Sound Effects",
-                                 "Looping >",
-                                 "Pan >",
-                                 "Apply",
-                                 "Cancel",
-                                 "OK",
-                                 "Help",
-                                 "Restore Window",
-                                 ">"}) {
-            EXPECT_TRUE(texts.contains(QString::fromLatin1(text))) << text;
-        }
+        hand.expectTexts({"Scene #",
+                          "Internal Name >",
+                          "Scene Image",
+                          "...",
+                          "Check Flag",
+                          "If Flag",
+                          "then switch to scene",
+                          "Set Flag",
+                          kSetFlag,
+                          "Flag",
+                          "Value",
+                          "ADD value to flag",
+                          "Movies",
+                          "Enter >",
+                          "Exit >",
+                          "Vol >",
+                          "Soundtrack",
+                          "Sound Effects",
+                          "Looping >",
+                          "Pan >",
+                          "Apply",
+                          "Cancel",
+                          "OK",
+                          "Help",
+                          "Restore Window",
+                          ">"});
         EXPECT_EQ(hand.button("Playmov(4)").toolTip(), QStringLiteral("Play/ Stop"));
         EXPECT_EQ(hand.button("Playwav(1)").toolTip(), QStringLiteral("Play"));
         EXPECT_EQ(hand.button("Playwav(3)").toolTip(), QStringLiteral("Play/ Stop"));

@@ -20,28 +20,14 @@ class SceneMedia : public EditorAuthor {
                  .mmedia("waltz.MP3", "w")
                  .mmedia("jig.mid", "j"));
     }
-    void edit(const std::function<void(const Hand&)>& author) {
-        editScene([&](const Hand& hand) {
-            hand.turnTo(1);
-            heard();
-            author(hand);
-        });
-    }
     void put(HeaderString field, const char* text) { scene().header(field) = text; }
-    static QStringList orders(std::initializer_list<const char*> orders) {
-        QStringList texts;
-        for (const char* order : orders) {
-            texts << QString::fromLatin1(order);
-        }
-        return texts;
-    }
 };
 
 TEST_F(SceneMedia, AStoredMovieVolumeOfTenThousandLoadsAsAHundred) {
     put(HeaderString::SceneEnterMovie, "in.avi");
     scene().header(HeaderInt::SceneEnterMovieVolume) = 10000;
     scene().header(HeaderInt::SceneExitMovieVolume) = 101;
-    edit([](const Hand& hand) {
+    editSceneMedia([](const Hand& hand) {
         EXPECT_EQ(hand.text("SV(4)"), QStringLiteral("100"));
         EXPECT_EQ(hand.slider("Hscroll1(4)").value(), 100);
         EXPECT_FALSE(hand.button("Command1").isEnabled());
@@ -52,7 +38,7 @@ TEST_F(SceneMedia, AStoredMovieVolumeOfTenThousandLoadsAsAHundred) {
 }
 
 TEST_F(SceneMedia, AMovieChosenInAFreshSceneKeepsVolumeZero) {
-    edit([this](const Hand& hand) {
+    editSceneMedia([this](const Hand& hand) {
         EXPECT_FALSE(hand.button("Playmov(4)").isEnabled());
         EXPECT_FALSE(hand.slider("Hscroll1(4)").isEnabled());
         EXPECT_FALSE(hand.box("SV(4)").isEnabled());
@@ -75,7 +61,7 @@ TEST_F(SceneMedia, AMoviePlaysWhileTheWindowMakesRoom) {
     put(HeaderString::SceneEnterMovie, "in.avi");
     put(HeaderString::SceneExitMovie, "out.avi");
     scene().header(HeaderInt::SceneEnterMovieVolume) = 70;
-    edit([this](const Hand& hand) {
+    editSceneMedia([this](const Hand& hand) {
         const QSize full = hand.window().size();
         hand.click("Playmov(4)");
         EXPECT_EQ(heard(), orders({"PlayMovie in.avi Scene 70"}));
@@ -106,7 +92,7 @@ TEST_F(SceneMedia, AMoviePlaysWhileTheWindowMakesRoom) {
 
 TEST_F(SceneMedia, AMovieThatIsNotThereIsTold) {
     put(HeaderString::SceneExitMovie, "gone.avi");
-    edit([this](const Hand& hand) {
+    editSceneMedia([this](const Hand& hand) {
         hand.click("Playmov(5)");
         EXPECT_EQ(boxes.texts(),
                   QStringList(QStringLiteral("Could not play AVI Movie.  File not found.")));
@@ -122,7 +108,7 @@ TEST_F(SceneMedia, AMovieThatIsNotThereIsTold) {
 TEST_F(SceneMedia, TheOrderToStopDisablesPreviewAndVolume) {
     put(HeaderString::SceneSoundtrack, "waltz.MP3");
     scene().header(HeaderInt::SceneSoundtrackVolume) = -800;
-    edit([](const Hand& hand) {
+    editSceneMedia([](const Hand& hand) {
         EXPECT_EQ(hand.text("SV(0)"), QStringLiteral("-800"));
         hand.doubleClick("MidiFile");
         EXPECT_EQ(hand.text("MidiFile"), QString());
@@ -142,7 +128,7 @@ TEST_F(SceneMedia, TheOrderToStopDisablesPreviewAndVolume) {
 }
 
 TEST_F(SceneMedia, MusicIsHeardByItsKindAndFollowsItsVolume) {
-    edit([this](const Hand& hand) {
+    editSceneMedia([this](const Hand& hand) {
         const auto choose = [&](const char* name) {
             dialogs.choice = text(files.mmedia(name));
             hand.click("locatebutton(1)");
@@ -183,7 +169,7 @@ TEST_F(SceneMedia, SoundsPlayOnceOrLoopAndEachStopsTheOthers) {
     put(HeaderString::SceneSound2File, "b.wav");
     put(HeaderString::SceneSound3File, "a.wav");
     scene().header(HeaderInt::SceneSound3Pan) = -4000;
-    edit([this](const Hand& hand) {
+    editSceneMedia([this](const Hand& hand) {
         hand.click("Playwav(1)");
         EXPECT_EQ(heard(), orders({"StopAllWavs", "PlayWav a.wav 0 0 1"}));
         hand.slider("Hscroll1(2)").setValue(-7);
@@ -203,7 +189,7 @@ TEST_F(SceneMedia, ClosingStopsEverything) {
     put(HeaderString::SceneSoundtrack, "waltz.MP3");
     put(HeaderString::SceneSound3File, "a.wav");
     for (const char* button : {"Command4", "Command2"}) {
-        edit([this, button](const Hand& hand) {
+        editSceneMedia([this, button](const Hand& hand) {
             hand.click("Playwav(3)");
             hand.click("PlayMidfile");
             hand.click("Playmov(4)");

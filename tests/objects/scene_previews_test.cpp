@@ -29,29 +29,11 @@ class ScenePreviews : public EditorAuthor {
         scene().header(HeaderInt::SceneSound2Pan) = 30;
         scene().header(HeaderInt::SceneEnterMovieVolume) = 60;
     }
-    void edit(const std::function<void(const Hand&)>& author) {
-        editScene([&](const Hand& hand) {
-            hand.turnTo(1);
-            heard();
-            author(hand);
-        });
-    }
     void put(HeaderString field, const char* text) { scene().header(field) = text; }
-    void choose(const Hand& hand, const char* button, const char* file) {
-        dialogs.choice = text(files.mmedia(file));
-        hand.click(button);
-    }
-    static QStringList orders(std::initializer_list<const char*> orders) {
-        QStringList texts;
-        for (const char* order : orders) {
-            texts << QString::fromLatin1(order);
-        }
-        return texts;
-    }
 };
 
 TEST_F(ScenePreviews, AnExitSoundLeavesTheLoopingButtonAsItIs) {
-    edit([this](const Hand& hand) {
+    editSceneMedia([this](const Hand& hand) {
         hand.click("Playwav(3)");
         heard();
         hand.click("Playwav(2)");
@@ -68,7 +50,7 @@ TEST_F(ScenePreviews, AnExitSoundLeavesTheLoopingButtonAsItIs) {
 }
 
 TEST_F(ScenePreviews, PansAreHeardAsVolumesAre) {
-    edit([this](const Hand& hand) {
+    editSceneMedia([this](const Hand& hand) {
         hand.click("HLeft(2)");
         hand.click("Centr(1)");
         EXPECT_EQ(heard(), orders({"SetWavPan 2 -4000"})) << "what stands there already is no move";
@@ -95,7 +77,7 @@ TEST_F(ScenePreviews, EachDialogBearsItsFilterAndTitle) {
         const char* filter;
         const char* file;
     };
-    edit([&](const Hand& hand) {
+    editSceneMedia([&](const Hand& hand) {
         for (const Dialog& one :
              {Dialog{"LSE(1)", kWavs, "b.wav"}, Dialog{"LSE(2)", kWavs, "b.wav"},
               Dialog{"LSE(3)", kWavs, "a.wav"}, Dialog{"LME(4)", kFilms, "in.avi"},
@@ -113,7 +95,7 @@ TEST_F(ScenePreviews, EachDialogBearsItsFilterAndTitle) {
 }
 
 TEST_F(ScenePreviews, ButtonsAndLevelsSayWhatTheyAre) {
-    edit([](const Hand& hand) {
+    editSceneMedia([](const Hand& hand) {
         for (const auto& [name, tip] :
              {std::pair{"Playmov(4)", "Play/ Stop"}, std::pair{"Playmov(5)", "Play/ Stop"},
               std::pair{"Playwav(1)", "Play"}, std::pair{"Playwav(2)", "Play"},
@@ -135,7 +117,7 @@ TEST_F(ScenePreviews, ButtonsAndLevelsSayWhatTheyAre) {
 }
 
 TEST_F(ScenePreviews, AnotherFileStopsTheSoundOfItsRow) {
-    edit([this](const Hand& hand) {
+    editSceneMedia([this](const Hand& hand) {
         hand.click("Playwav(3)");
         heard();
         choose(hand, "LSE(3)", "b.wav");
@@ -153,7 +135,7 @@ TEST_F(ScenePreviews, AnotherFileStopsTheSoundOfItsRow) {
 
 TEST_F(ScenePreviews, AnotherFileStopsTheMovieOfItsRowAlone) {
     put(HeaderString::SceneExitMovie, "in.avi");
-    edit([this](const Hand& hand) {
+    editSceneMedia([this](const Hand& hand) {
         const QSize full = hand.window().size();
         hand.click("Playmov(4)");
         hand.click("RestoreIt");
@@ -179,7 +161,7 @@ TEST_F(ScenePreviews, AnotherFileStopsTheMovieOfItsRowAlone) {
 }
 
 TEST_F(ScenePreviews, AnotherSoundtrackStopsMusicAndSounds) {
-    edit([this](const Hand& hand) {
+    editSceneMedia([this](const Hand& hand) {
         hand.click("PlayMidfile");
         heard();
         choose(hand, "locatebutton(1)", "JIG.MID");
@@ -195,14 +177,10 @@ TEST_F(ScenePreviews, AnotherSoundtrackStopsMusicAndSounds) {
 }
 
 TEST_F(ScenePreviews, AWheelTurnedOverASliderInPassingChangesNothing) {
-    edit([](const Hand& hand) {
+    editSceneMedia([](const Hand& hand) {
         QSlider& slider = hand.slider("Hscroll1(4)");
         hand.box("MEN(4)").setFocus();
-        const auto turn = [&slider] {
-            QWheelEvent wheel(QPointF(5, 5), slider.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120),
-                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-            QApplication::sendEvent(&slider, &wheel);
-        };
+        const auto turn = [&hand] { hand.turnWheel("Hscroll1(4)"); };
         turn();
         EXPECT_EQ(slider.value(), 60);
         EXPECT_FALSE(hand.button("Command1").isEnabled());
@@ -215,7 +193,7 @@ TEST_F(ScenePreviews, AWheelTurnedOverASliderInPassingChangesNothing) {
 
 TEST_F(ScenePreviews, MusicOfAnotherKindStaysSilent) {
     put(HeaderString::SceneSoundtrack, "noise.ogg");
-    edit([this](const Hand& hand) {
+    editSceneMedia([this](const Hand& hand) {
         hand.click("PlayMidfile");
         EXPECT_EQ(heard(), QStringList());
         EXPECT_EQ(hand.button("PlayMidfile").text(), QStringLiteral(">"));
@@ -225,7 +203,7 @@ TEST_F(ScenePreviews, MusicOfAnotherKindStaysSilent) {
 TEST_F(ScenePreviews, TheOrderToStopIsOpenedWithTheVolumeThatIsStored) {
     put(HeaderString::SceneSoundtrack, "(Stop Sndtrk)");
     scene().header(HeaderInt::SceneSoundtrackVolume) = -800;
-    edit([this](const Hand& hand) {
+    editSceneMedia([this](const Hand& hand) {
         EXPECT_EQ(hand.text("MidiFile"), QStringLiteral("(Stop Sndtrk)"));
         EXPECT_EQ(hand.text("SV(0)"), QStringLiteral("-800"));
         for (const char* control : {"PlayMidfile", "Hscroll1(0)", "SV(0)"}) {
@@ -252,21 +230,16 @@ TEST_F(ScenePreviews, TheOrderToStopIsOpenedWithTheVolumeThatIsStored) {
 TEST_F(ScenePreviews, ClosingWhileAMovieHasTheRoomStopsAllStoresNothingAndReturnsTheRoom) {
     const store::Scene before = scene();
     QSize full;
-    edit([&full](const Hand& hand) { full = hand.window().size(); });
+    editSceneMedia([&full](const Hand& hand) { full = hand.window().size(); });
     for (const bool byKey : {true, false}) {
-        edit([&](const Hand& hand) {
+        editSceneMedia([&](const Hand& hand) {
             hand.slider("Hscroll1(4)").setValue(10);
             hand.click("Playwav(3)");
             hand.click("PlayMidfile");
             hand.click("Playmov(4)");
             EXPECT_LE(hand.window().height(), 55);
             heard();
-            if (byKey) {
-                QTest::keyClick(&hand.window(), Qt::Key_Escape);
-            } else {
-                hand.window().close();
-            }
-            EXPECT_FALSE(hand.window().isVisible());
+            hand.leave(byKey);
             for (const char* button : {"Playwav(3)", "PlayMidfile", "Playmov(4)"}) {
                 EXPECT_EQ(hand.button(button).text(), QStringLiteral(">")) << button;
             }
@@ -277,7 +250,7 @@ TEST_F(ScenePreviews, ClosingWhileAMovieHasTheRoomStopsAllStoresNothingAndReturn
             EXPECT_TRUE(stopped.contains(QString::fromLatin1(order))) << order;
         }
         EXPECT_TRUE(scene() == before);
-        edit([&](const Hand& hand) {
+        editSceneMedia([&](const Hand& hand) {
             EXPECT_EQ(hand.window().size(), full);
             EXPECT_FALSE(hand.button("RestoreIt").isVisible());
             EXPECT_TRUE(hand.button("Playmov(4)").isVisible());
@@ -288,7 +261,7 @@ TEST_F(ScenePreviews, ClosingWhileAMovieHasTheRoomStopsAllStoresNothingAndReturn
 }
 
 TEST_F(ScenePreviews, EnterWhileAMovieHasTheRoomClosesNothing) {
-    edit([](const Hand& hand) {
+    editSceneMedia([](const Hand& hand) {
         hand.slider("Hscroll1(4)").setValue(10);
         hand.click("Playmov(4)");
         QTest::keyClick(&hand.window(), Qt::Key_Return);
