@@ -33,10 +33,10 @@ char lower(char c) {
     }
 }
 
-/// The entry of `folder` that is `name`, as it is spelt on disk; `name` itself when there is none.
-fs::path spelling(const fs::path& folder, const std::string& name) {
+/// The entry of `folder` that is `name`, as it is spelt on disk; nothing when there is none.
+std::optional<fs::path> findEntry(const fs::path& folder, std::string_view name) {
     std::error_code error;
-    const fs::path exact = folder / pathOf(name);
+    fs::path exact = folder / pathOf(name);
     if (fs::exists(fs::symlink_status(exact, error))) {
         return exact;
     }
@@ -46,7 +46,21 @@ fs::path spelling(const fs::path& folder, const std::string& name) {
             return entry->path();
         }
     }
-    return exact;
+    return std::nullopt;
+}
+
+/// The first step of `relative`, which does not begin with a separator, below `folder`; takes it
+/// off `relative`. A backslash may be a letter of a name, so a longer name goes before a shorter.
+fs::path takeStep(const fs::path& folder, std::string_view& relative) {
+    std::string_view step = relative.substr(0, relative.find('/'));
+    std::optional<fs::path> found = findEntry(folder, step);
+    for (auto end = step.rfind('\\'); !found && end != std::string_view::npos;
+         end = step.rfind('\\')) {
+        step = step.substr(0, end);
+        found = findEntry(folder, step);
+    }
+    relative.remove_prefix(step.size());
+    return found.value_or(folder / pathOf(step));
 }
 
 }  // namespace
@@ -74,15 +88,13 @@ bool sameName(std::string_view a, std::string_view b) {
 
 fs::path resolvePath(const fs::path& base, std::string_view relative) {
     fs::path path = base;
-    while (!relative.empty()) {
-        const auto end = std::min(relative.find_first_of("/\\"), relative.size());
-        const std::string step(relative.substr(0, end));
-        relative.remove_prefix(std::min(end + 1, relative.size()));
-        if (!step.empty()) {
-            path = spelling(path, step);
+    for (;;) {
+        relative.remove_prefix(std::min(relative.find_first_not_of("/\\"), relative.size()));
+        if (relative.empty()) {
+            return path;
         }
+        path = takeStep(path, relative);
     }
-    return path;
 }
 
 bool isBareName(std::string_view name) {
@@ -103,12 +115,9 @@ std::optional<fs::path> findResource(const fs::path& projectFolder, ResourceFold
     if (!isBareName(name)) {
         return std::nullopt;
     }
-    const fs::path path = spelling(resourceFolder(projectFolder, kind), std::string(name));
+    std::optional<fs::path> path = findEntry(resourceFolder(projectFolder, kind), name);
     std::error_code error;
-    if (!fs::is_regular_file(path, error)) {
-        return std::nullopt;
-    }
-    return path;
+    return path && fs::is_regular_file(*path, error) ? path : std::nullopt;
 }
 
 }  // namespace quorvel::store

@@ -14,7 +14,8 @@ std::filesystem::path pathOf(std::string_view utf8);
 std::string textOf(const std::filesystem::path& path);
 
 /// `base` followed by `relative`, whose separators may be "/" or "\". Each step that exists under
-/// another letter case is taken as it is spelt on disk; what does not exist is kept as given.
+/// another letter case is taken as it is spelt on disk; what does not exist is kept as given. Where
+/// a name may hold a backslash, the longest name that exists is the step.
 std::filesystem::path resolvePath(const std::filesystem::path& base, std::string_view relative);
 
 /// True for a name that can only mean a file of the folder it is looked up in: not empty, no

@@ -91,6 +91,10 @@ TEST(SplitPath, TakesAFileWhoseNameHoldsABackslash) {
         GTEST_SKIP() << "a backslash cannot be part of a name here";
     }
     EXPECT_EQ(splitPath(text(odd)).name, QStringLiteral("odd\\name.qvl"));
+    const QString folderText = text(folder.path()) + QLatin1Char('/');
+    EXPECT_EQ(splitPath(folderText + QStringLiteral("ODD\\Name.QVL")).name,
+              QStringLiteral("odd\\name.qvl"))
+        << "in any letter case too";
 }
 
 TEST(SplitPath, KeepsABareNameAndAnEmptyPath) {

@@ -36,6 +36,22 @@ TEST_F(Paths, TheExactSpellingWinsOverAnother) {
     EXPECT_EQ(resolvePath(folder_.path(), "HALL.bmp"), folder_ / "HALL.bmp");
 }
 
+TEST_F(Paths, ABackslashMaySeparateOrBeALetterOfANameInAnyLetterCase) {
+    const fs::path odd = folder_.makeFolder("My\\Games");
+    if (!fs::is_directory(folder_ / "My\\Games") || fs::exists(folder_ / "My")) {
+        GTEST_SKIP() << "a backslash cannot be a letter of a name here";
+    }
+    const fs::path file = folder_.makeFolder("My\\Games/Resource/GFX") / "Hall\\Door.PNG";
+    writeBytes(file, "x");
+    for (const char* spelt :
+         {"My\\Games/Resource/GFX/Hall\\Door.PNG", "my\\GAMES/resource/gfx/hall\\door.png",
+          "my\\games\\RESOURCE\\gfx\\hall\\door.png", "My\\games\\resource/GFX//Hall\\DOOR.png"}) {
+        EXPECT_EQ(resolvePath(folder_.path(), spelt), file) << spelt;
+    }
+    EXPECT_EQ(resolvePath(folder_.path(), "my\\games\\New\\a.dat"), odd / "New/a.dat");
+    EXPECT_EQ(resolvePath(folder_.path(), "my\\other"), folder_ / "my/other");
+}
+
 TEST_F(Paths, WhatDoesNotExistKeepsItsSpellingBelowWhatDoes) {
     folder_.makeFolder("Resource");
     EXPECT_EQ(resolvePath(folder_.path(), "resource\\New.dat"), folder_ / "Resource/New.dat");
