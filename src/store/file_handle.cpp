@@ -185,11 +185,4 @@ void FileHandle::close() {
     }
 }
 
-std::string readWholeFile(const fs::path& path) {
-    FileHandle file = FileHandle::open(path);
-    std::string bytes(static_cast<std::size_t>(file.size()), '\0');
-    bytes.resize(file.readAt(0, bytes));
-    return bytes;
-}
-
 }  // namespace quorvel::store

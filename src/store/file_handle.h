@@ -54,7 +54,4 @@ class FileHandle {
     bool writable_ = false;
 };
 
-/// Reads a whole file in one piece. Throws `RuntimeError`.
-std::string readWholeFile(const std::filesystem::path& path);
-
 }  // namespace quorvel::store

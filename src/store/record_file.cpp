@@ -19,8 +19,8 @@ std::uintmax_t RecordFileBase::offsetOf(int number) const {
     return static_cast<std::uintmax_t>(number - 1) * length_;
 }
 
-bool RecordFileBase::readBytes(int number, std::span<char> into) {
-    return file_.readAt(offsetOf(number), into) > 0;
+void RecordFileBase::readBytes(int number, std::span<char> into) {
+    file_.readAt(offsetOf(number), into);
 }
 
 void RecordFileBase::writeBytes(int number, std::span<const char> bytes) {

@@ -36,7 +36,7 @@ class RecordFileBase {
     void openOrCreateFile(const std::filesystem::path& path) {
         file_ = FileHandle::openOrCreate(path);
     }
-    bool readBytes(int number, std::span<char> into);
+    void readBytes(int number, std::span<char> into);
     void writeBytes(int number, std::span<const char> bytes);
 
   private:

@@ -17,6 +17,13 @@ std::vector<ListEntry> readNames(RecordFile<Record>& file, Name name) {
     return entries;
 }
 
+/// True when record `number` stands for a location: it is not removed, and not the first record of
+/// a map that has no location 1.
+bool isLocation(int number, const LocationRecord& record) {
+    const std::string image = record.LocationImage.text();
+    return image != "Del" && (number != 1 || !image.empty());
+}
+
 }  // namespace
 
 std::string listText(int number, const std::string& name) {
@@ -33,11 +40,6 @@ std::vector<ListEntry> readItemNames(RecordFile<ItemRecord>& file) {
 
 std::vector<ListEntry> readCardNames(RecordFile<CueCardRecord>& file) {
     return readNames(file, &CueCardRecord::CardName);
-}
-
-bool isLocation(int number, const LocationRecord& record) {
-    const std::string image = record.LocationImage.text();
-    return image != "Del" && (number != 1 || !image.empty());
 }
 
 void readLocations(RecordFile<LocationRecord>& file, ProjectLists& lists) {

@@ -41,17 +41,10 @@ struct ProjectLists {
     std::string MapImage;  ///< picture of the map, empty for none
 };
 
-/// The longest map.
-inline constexpr int kMostLocations = 20;
-
 std::vector<ListEntry> readSceneNames(RecordFile<SceneRecord>& file);
 std::vector<ListEntry> readItemNames(RecordFile<ItemRecord>& file);
 std::vector<ListEntry> readCardNames(RecordFile<CueCardRecord>& file);
 /// Fills `locations`, `mapIcons` and `MapImage`.
 void readLocations(RecordFile<LocationRecord>& file, ProjectLists& lists);
-
-/// True when record `number` stands for a location: it is not removed, and not the first record of
-/// a map that has no location 1.
-bool isLocation(int number, const LocationRecord& record);
 
 }  // namespace quorvel::store

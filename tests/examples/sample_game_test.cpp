@@ -12,9 +12,9 @@
 
 #include <QImage>
 
-#include "store/file_handle.h"
 #include "store/numbers.h"
 #include "store/security.h"
+#include "support/file_bytes.h"
 
 namespace quorvel {
 namespace {
@@ -208,7 +208,7 @@ TEST_F(SampleGame, ItemsHavePicturesAndMirroredCombinations) {
         EXPECT_EQ(picture(item.ItemIcon.text()).read().size(), QSize(32, 32));
         EXPECT_FALSE(picture(item.ItemCloseupImage.text()).read().isNull());
         for (const std::string& cursor : {item.ItemCursor.text(), item.ItemCursorHi.text()}) {
-            EXPECT_EQ(readWholeFile(find(ResourceFolder::gfx, cursor)).substr(0, 4),
+            EXPECT_EQ(test::readBytes(find(ResourceFolder::gfx, cursor)).substr(0, 4),
                       std::string("\0\0\2\0", 4));
         }
         for (const std::string& sound : {item.ItemWrongSound.text(), item.ItemExamineSound.text(),
@@ -294,7 +294,7 @@ TEST_F(SampleGame, SettingsNameTheirFiles) {
     EXPECT_TRUE(inRange("credits", settings.CreditsScene, 1, project_.NumberOfScenes));
     ASSERT_EQ(static_cast<int>(settings.GamePointer.size()), kMostPointers);
     for (const auto& pointer : settings.GamePointer) {
-        EXPECT_EQ(readWholeFile(find(ResourceFolder::gfx, pointer.text())).substr(0, 4),
+        EXPECT_EQ(test::readBytes(find(ResourceFolder::gfx, pointer.text())).substr(0, 4),
                   std::string("\0\0\2\0", 4));
     }
     for (const std::string& sound :
@@ -311,7 +311,7 @@ TEST_F(SampleGame, SoundsAreWavesTunesAndAMovie) {
     int movies = 0;
     for (const auto& entry :
          fs::directory_iterator(resourceFolder(project_.folder(), ResourceFolder::mmedia))) {
-        const std::string bytes = readWholeFile(entry.path());
+        const std::string bytes = test::readBytes(entry.path());
         if (entry.path().extension() == ".wav") {
             EXPECT_EQ(bytes.substr(0, 4) + bytes.substr(8, 8), "RIFFWAVEfmt ") << entry.path();
             ++waves;
@@ -343,7 +343,7 @@ TEST_F(SampleGame, NoFileIsUnused) {
     for (const RecordFileBase* file :
          std::initializer_list<const RecordFileBase*>{&project_.locationFile, &project_.itemFile,
                                                       &project_.settingsFile, &project_.cardFile}) {
-        const std::string bytes = readWholeFile(file->path());
+        const std::string bytes = test::readBytes(file->path());
         for (const ResourceFolder kind : {ResourceFolder::gfx, ResourceFolder::mmedia}) {
             for (const auto& entry :
                  fs::directory_iterator(resourceFolder(project_.folder(), kind))) {

@@ -2,10 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "store/project_stage.h"
 #include "store/runtime_error.h"
 #include "support/file_bytes.h"
-#include "support/project_builder.h"
-#include "support/temp_folder.h"
 
 namespace quorvel::store {
 namespace {
@@ -13,8 +12,6 @@ namespace {
 using test::ProjectBuilder;
 using test::readBytes;
 using test::readInt;
-using test::TempFolder;
-using test::TestProject;
 
 template <class Record>
 std::string bytesAsText(const Record& record) {
@@ -22,21 +19,14 @@ std::string bytesAsText(const Record& record) {
     return {bytes.begin(), bytes.end()};
 }
 
-class GameStores : public ::testing::Test {
+class GameStores : public ProjectStage {
   protected:
-    void open(const ProjectBuilder& builder) {
-        files_ = builder.build(folder_.path());
-        files_.openIn(project_);
-    }
     std::string itemBytes(int number) const {
         return readBytes(files_.storePath(3), static_cast<std::uintmax_t>(number - 1) * 209, 209);
     }
     std::string locationBytes(int number) const {
         return readBytes(files_.storePath(2), static_cast<std::uintmax_t>(number - 1) * 112, 112);
     }
-    TempFolder folder_;
-    TestProject files_;
-    Project project_;
 };
 
 using Items = GameStores;

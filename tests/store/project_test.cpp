@@ -3,13 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "store/golden_records.h"
+#include "store/project_stage.h"
 #include "store/runtime_error.h"
 #include "store/scene_store.h"
 #include "store/security.h"
 #include "support/file_bytes.h"
 #include "support/mounts.h"
-#include "support/project_builder.h"
-#include "support/temp_folder.h"
 
 namespace quorvel::store {
 namespace {
@@ -24,22 +23,14 @@ using test::snapshotOf;
 using test::TempFolder;
 using test::TestProject;
 
-class ProjectTest : public ::testing::Test {
+class ProjectTest : public ProjectStage {
   protected:
-    void build(const ProjectBuilder& builder) { files_ = builder.build(folder_.path()); }
-    void open(const ProjectBuilder& builder) {
-        build(builder);
-        files_.openIn(project_);
-    }
     /// What the orderly close of a project does to its files.
     void close() {
         WriteSecurity(project_);
         project_.SaveProjectFile();
         project_.closeFiles();
     }
-    TempFolder folder_;
-    TestProject files_;
-    Project project_;
 };
 
 TEST_F(ProjectTest, OpensWithEverythingThatItsFilesHold) {

@@ -2,28 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include "store/game_stores.h"
+#include "store/project_stage.h"
 #include "support/file_bytes.h"
-#include "support/project_builder.h"
-#include "support/temp_folder.h"
 
 namespace quorvel::store {
 namespace {
 
 using test::ProjectBuilder;
-using test::TempFolder;
-using test::TestProject;
 
-class RecordLists : public ::testing::Test {
-  protected:
-    void open(const ProjectBuilder& builder) {
-        files_ = builder.build(folder_.path());
-        files_.openIn(project_);
-    }
-    TempFolder folder_;
-    TestProject files_;
-    Project project_;
-};
+using RecordLists = ProjectStage;
 
 TEST_F(RecordLists, ALineIsNumberBlankAndNameInParentheses) {
     EXPECT_EQ(listText(3, "Hall"), "3 (Hall)");
@@ -94,19 +81,19 @@ TEST_F(RecordLists, AnEmptyIconMeansNoLocationInTheFirstRecordAlone) {
     EXPECT_EQ(project_.lists.locations[0].number, 2);
     EXPECT_FALSE(project_.lists.mapIcons[0].visible);
     EXPECT_TRUE(project_.lists.mapIcons[1].visible);
-    LocationRecord record{};
-    EXPECT_FALSE(isLocation(1, record));
-    EXPECT_TRUE(isLocation(2, record));
-    record.LocationImage = "(None)";
-    EXPECT_TRUE(isLocation(1, record));
-    record.LocationImage = "Del";
-    EXPECT_FALSE(isLocation(2, record));
 }
 
-TEST_F(RecordLists, AMapHoldsTwentyLocations) {
-    EXPECT_EQ(kMostLocations, 20);
+TEST_F(RecordLists, ALocationWithoutAnIconIsOneAndARemovedOneIsNot) {
+    open(ProjectBuilder().location(1, "A", 0, "(None)").location(2, "B", 0, "Del"));
+    ASSERT_EQ(project_.lists.locations.size(), 1U);
+    EXPECT_EQ(project_.lists.locations[0].number, 1);
+    EXPECT_TRUE(project_.lists.mapIcons[0].visible);
+    EXPECT_FALSE(project_.lists.mapIcons[1].visible);
+}
+
+TEST_F(RecordLists, AMapLongerThanTwentyLocationsIsReadWhole) {
     open(ProjectBuilder().locations(21));
-    EXPECT_EQ(project_.lists.mapIcons.size(), 21U);  // a longer store is read, not cut
+    EXPECT_EQ(project_.lists.mapIcons.size(), 21U);
 }
 
 TEST_F(RecordLists, AThousandScenesAreListed) {

@@ -2,11 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "store/project_stage.h"
 #include "store/runtime_error.h"
 #include "support/file_bytes.h"
 #include "support/mounts.h"
-#include "support/project_builder.h"
-#include "support/temp_folder.h"
 
 namespace quorvel::store {
 namespace {
@@ -15,18 +14,10 @@ using test::ProjectBuilder;
 using test::readBytes;
 using test::readInt;
 using test::SmallDisk;
-using test::TempFolder;
 using test::TestProject;
 
-class SceneStore : public ::testing::Test {
+class SceneStore : public ProjectStage {
   protected:
-    void open(const ProjectBuilder& builder) {
-        files_ = builder.build(folder_.path());
-        files_.openIn(project_);
-    }
-    TempFolder folder_;
-    TestProject files_;
-    Project project_;
     Scene scene_;
 };
 

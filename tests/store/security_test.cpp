@@ -3,11 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "store/creation.h"
+#include "store/project_stage.h"
 #include "store/runtime_error.h"
 #include "support/file_bytes.h"
 #include "support/mounts.h"
-#include "support/project_builder.h"
-#include "support/temp_folder.h"
 
 namespace quorvel::store {
 namespace {
@@ -25,10 +24,11 @@ using test::TestProject;
 /// Where the code lies in stores 1 to 5.
 constexpr int kCodeOffset[] = {0, 205, 110, 207, 217, 0};
 
-class Security : public ::testing::Test {
+class Security : public ProjectStage {
   protected:
+    /// Builds the project and takes what its project file says; the stores stay closed.
     void build(const ProjectBuilder& builder) {
-        files_ = builder.build(folder_.path());
+        ProjectStage::build(builder);
         files_.nameIn(project_);
         project_.takeProjectRecord(project_.openProjectFile());
     }
@@ -40,9 +40,6 @@ class Security : public ::testing::Test {
     }
     std::vector<int> mismatches() const { return checkSecurity(project_).mismatches; }
 
-    TempFolder folder_;
-    TestProject files_;
-    Project project_;
     ProjectBuilder full_ = ProjectBuilder().scenes(2).items(2).locations(2).cards(2);
 };
 

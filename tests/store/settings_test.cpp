@@ -3,9 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "store/golden_records.h"
+#include "store/project_stage.h"
 #include "support/file_bytes.h"
-#include "support/project_builder.h"
-#include "support/temp_folder.h"
 
 namespace quorvel::store {
 namespace {
@@ -13,8 +12,6 @@ namespace {
 using test::ProjectBuilder;
 using test::readBytes;
 using test::readInt;
-using test::TempFolder;
-using test::TestProject;
 
 using Bytes = std::vector<std::pair<std::size_t, std::size_t>>;
 
@@ -58,17 +55,10 @@ GameSettingsRecord recordOf(const std::string& bytes) {
     return record;
 }
 
-class Settings : public ::testing::Test {
+class Settings : public ProjectStage {
   protected:
-    void SetUp() override {
-        files_ = ProjectBuilder().build(folder_.path());
-        files_.openIn(project_);
-    }
+    void SetUp() override { open(ProjectBuilder()); }
     std::string stored() const { return readBytes(files_.storePath(4)); }
-
-    TempFolder folder_;
-    TestProject files_;
-    Project project_;
 };
 
 class EachSlice : public Settings, public ::testing::WithParamInterface<int> {
