@@ -176,13 +176,11 @@ void SceneView::ToggleAnimations(bool on) {
             object.playhead().play();
         }
     }
-    Q_EMIT animationsToggled(on);
 }
 
 void SceneView::ToggleBorders(bool on) {
     BordersOn = on;
     placeBorders();
-    Q_EMIT bordersToggled(on);
 }
 
 void SceneView::placeBorders() {
@@ -228,10 +226,6 @@ SceneElement& SceneView::objectElement(int k) const {
     const auto i = static_cast<std::size_t>(k);
     return quickSpots_.at(i)->isShown() ? *quickSpots_.at(i)
                                         : static_cast<SceneElement&>(*objects_.at(i));
-}
-
-SceneElement& SceneView::linkElement(store::LinkSide side) const {
-    return *links_[static_cast<std::size_t>(side)];
 }
 
 std::vector<SceneElement*> SceneView::movableElements() const {

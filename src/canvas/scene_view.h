@@ -20,8 +20,8 @@ namespace quorvel::canvas {
 ///
 /// Data flow: the shell loads a scene into memory and calls `ShowSceneObjects`, which makes the
 /// elements follow the memory. What the author does on the canvas goes into the memory at once,
-/// but for the links, which `StoreLinkPlaces` reads back before a save. What the main window shows
-/// of the scene follows the signals.
+/// but for links that are sized or put back, which `StoreLinkPlaces` stores before a save. What the
+/// main window shows of the scene follows the signals.
 ///
 /// Every element bears the system's name, `Animation(3)`, and knows its kind and index.
 class SceneView : public QWidget {
@@ -88,7 +88,8 @@ class SceneView : public QWidget {
     /// alert and borders follow.
     void DropElement(SceneElement& element, int left, int top);
 
-    /// The place of an edge link on the canvas. It reaches the scene in memory with the next save.
+    /// The place of an edge link on the canvas. One that is set here reaches the scene in memory
+    /// with the next save.
     [[nodiscard]] Place linkPlace(store::LinkSide side) const;
     void setLinkPlace(store::LinkSide side, const Place& place);
     /// The edge link has got another target: its mark follows. Its place does not change.
@@ -111,7 +112,6 @@ class SceneView : public QWidget {
     [[nodiscard]] bool isObjectOut(int k) const;
     /// The element that shows object `k`: its picture, or its rectangle when it is a QuickSpot.
     [[nodiscard]] SceneElement& objectElement(int k) const;
-    [[nodiscard]] SceneElement& linkElement(store::LinkSide side) const;
     [[nodiscard]] SceneElement& imageElement() const { return *image_; }
 
     /// The canvas itself, whose pixels all places count, and what can be moved on it.
@@ -137,8 +137,6 @@ class SceneView : public QWidget {
     /// The objects were counted; at 20 no more can be inserted.
     void objectCountChanged(int count);
     void statusChanged(const quorvel::canvas::StatusText& text);
-    void bordersToggled(bool on);
-    void animationsToggled(bool on);
     /// Pictures are being loaded; the window bears the wait cursor meanwhile.
     void loadingChanged(bool loading);
 

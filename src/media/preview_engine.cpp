@@ -255,11 +255,4 @@ bool PreviewEngine::isMoviePlaying() const {
     return isPlaying(movieSlot);
 }
 
-void PreviewEngine::StopAll() {
-    StopAllWavs();
-    StopMidi();
-    StopMp3();
-    StopMovie();
-}
-
 }  // namespace quorvel::media

@@ -102,8 +102,6 @@ class PreviewEngine : public QObject {
     /// Where its pictures arrive.
     [[nodiscard]] MovieFrames& movieFrames() { return frames_; }
 
-    void StopAll();
-
     /// Why the last play that ended was silent or cut short, in words; empty when it was neither,
     /// and after each order to play.
     [[nodiscard]] QString lastError() const { return lastError_; }

@@ -134,7 +134,6 @@ void OpenProj::Timer3_Timer() {
     timer3_.stop();
     project_.ProjectLoading = false;
     work_.afterLoad();
-    succeeded_ = true;
     done(Accepted);
 }
 

@@ -27,9 +27,6 @@ class OpenProj : public forms::Form, public LoadProgress {
     void step() override;
     void unload() override;
 
-    /// True once the project is open and its after-load tasks are done.
-    [[nodiscard]] bool succeeded() const { return succeeded_; }
-
   protected:
     void showEvent(QShowEvent* event) override;
     void reject() override;
@@ -51,7 +48,6 @@ class OpenProj : public forms::Form, public LoadProgress {
     QTimer timer3_;
     int stepsDone_ = 0;
     bool loaded_ = false;
-    bool succeeded_ = false;
 };
 
 }  // namespace quorvel::shell

@@ -121,7 +121,7 @@ TEST_P(Faults, DamagedFilesEnd) {
         // A damaged length can make a file long, but it may not hang.
         if (!waitUntil([&] { return ends.size() > count; }, 3s)) {
             const auto before = capture.takes() == 0 ? 0 : capture.frames(capture.takes() - 1);
-            engine->StopAll();
+            stopAll();
             ASSERT_TRUE(waitForSilence()) << "seed " << seed << " hangs after " << before;
         } else {
             ++count;
@@ -213,7 +213,7 @@ TEST_F(Devices, AnOrderEmptiesTheLastError) {
 
 TEST_F(Devices, AnEngineThatIsNeverUsedStartsNothing) {
     begin();
-    engine->StopAll();
+    stopAll();
     engine->SetWavVolume(0, -100);
     engine->SetMp3Balance(100);
     EXPECT_TRUE(engine->CloseMediaEngine());

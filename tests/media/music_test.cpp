@@ -1,5 +1,4 @@
 // MP3 and MIDI.
-#include <cmath>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -143,7 +142,7 @@ TEST_F(Mp3, OtherPreviewsGoOn) {
     ASSERT_TRUE(waitUntil([this] { return capture.open() == 2; }));
     EXPECT_TRUE(engine->isWavPlaying(0));
     EXPECT_TRUE(engine->isMidiPlaying());
-    engine->StopAll();
+    stopAll();
     EXPECT_TRUE(waitForSilence());
 }
 

@@ -61,7 +61,7 @@ class Strain : public MediaTest {
             const std::size_t before = capture.takes();
             waitUntil([&] { return capture.takes() > before; }, 5ms);
         }
-        engine->StopAll();
+        stopAll();
         // Which waits for all orders before it.
         EXPECT_TRUE(engine->CloseMediaEngine()) << "round " << number << " hangs";
         EXPECT_EQ(capture.open(), 0);
@@ -124,7 +124,7 @@ TEST_F(Strain, OrdersMayComeFasterThanTheyAreDone) {
             engine->StopAllWavs();
         }
     }
-    engine->StopAll();
+    stopAll();
     EXPECT_TRUE(engine->CloseMediaEngine()) << "all orders before it are done then";
     EXPECT_EQ(capture.open(), 0);
     EXPECT_TRUE(ends.empty());

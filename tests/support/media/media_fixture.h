@@ -60,6 +60,12 @@ class MediaTest : public testing::Test {
             engine.get(), &PreviewEngine::movieEnded, engine.get(),
             [this](const QString& owner) { ends.push_back("movie " + owner.toStdString()); });
     }
+    void stopAll() const {
+        engine->StopAllWavs();
+        engine->StopMidi();
+        engine->StopMp3();
+        engine->StopMovie();
+    }
     bool waitForEnds(std::size_t count) {
         return waitUntil([&] { return ends.size() >= count; });
     }
