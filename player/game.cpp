@@ -1,6 +1,5 @@
 #include "player/game.h"
 
-#include <limits>
 #include <utility>
 
 #include "canvas/elements.h"

@@ -1,7 +1,5 @@
 #include "player/marker.h"
 
-#include <cstdint>
-
 #include "resources/player_marker.h"
 
 namespace quorvel::player {

@@ -1,5 +1,6 @@
 #include "canvas/menus.h"
 
+#include <array>
 #include <string_view>
 
 #include <QAction>

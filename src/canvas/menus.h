@@ -4,7 +4,6 @@
 /// menu prepares its jump entries first and answers `chosen`.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <map>
 

@@ -1,9 +1,9 @@
 #include "canvas/object_actions.h"
 
+#include <array>
 #include <utility>
 
 #include <QContextMenuEvent>
-#include <QMenu>
 #include <QMouseEvent>
 
 #include "canvas/focus_outline.h"

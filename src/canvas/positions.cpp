@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "canvas/object_kinds.h"
 #include "canvas/scene_view.h"
+#include "store/objects.h"
 
 namespace quorvel::canvas {
 

@@ -3,6 +3,7 @@
 #include <exception>
 #include <utility>
 
+#include "media/file_kind.h"
 #include "media/sound_font.h"
 
 namespace quorvel::media {

@@ -9,7 +9,6 @@
 #include <memory>
 #include <string>
 
-#include "media/file_kind.h"
 #include "media/job_thread.h"
 #include "media/stream_play.h"
 #include "media/wav_voice.h"

@@ -1,8 +1,6 @@
 /// What the editors of a scene work on.
 #pragma once
 
-#include <functional>
-
 #include "canvas/scene_keeper.h"
 #include "canvas/scene_view.h"
 #include "groups/sheet.h"

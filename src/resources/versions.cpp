@@ -4,7 +4,6 @@
 #include <array>
 #include <optional>
 #include <system_error>
-#include <utility>
 
 #include <QFile>
 #include <QStringList>

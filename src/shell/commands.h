@@ -4,8 +4,6 @@
 #include <cstdint>
 #include <span>
 
-#include <QString>
-
 namespace quorvel::shell {
 
 /// What an entry runs. An entry whose command nobody has given a routine stays disabled.

@@ -4,7 +4,6 @@
 /// chooses leaves as `commandChosen`. The window decides nothing.
 #pragma once
 
-#include <map>
 #include <set>
 
 #include <QMainWindow>

@@ -7,6 +7,7 @@
 #include "forms/events.h"
 #include "store/file_attributes.h"
 #include "store/paths.h"
+#include "store/security.h"
 
 namespace quorvel::shell {
 

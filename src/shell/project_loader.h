@@ -7,7 +7,6 @@
 #include "forms/record_lists.h"
 #include "forms/traps.h"
 #include "shell/main_window.h"
-#include "store/security.h"
 
 namespace quorvel::shell {
 

@@ -1,6 +1,5 @@
 #include "shell/shell.h"
 
-#include <algorithm>
 #include <utility>
 
 #include <QApplication>
@@ -13,7 +12,6 @@
 #include "shell/install_path.h"
 #include "shell/open_project.h"
 #include "shell/path_text.h"
-#include "store/paths.h"
 #include "store/security.h"
 
 namespace quorvel::shell {

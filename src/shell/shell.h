@@ -1,7 +1,7 @@
 /// The shell: owns the project, the scene, the settings and the windows, and ties them together.
 ///
 /// States: starting (splash), no project, project open, shutting down. A project that opens moves
-/// it from the second to the third, `closeProject` back, `ExitProgram` from either to the last.
+/// it from the second to the third, `CloseProject` back, `ExitProgram` from either to the last.
 #pragma once
 
 #include <functional>

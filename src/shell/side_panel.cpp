@@ -7,7 +7,6 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include "forms/look.h"
 #include "forms/wrap_button.h"
 
 namespace quorvel::shell {

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include <QFrame>
+#include <QWidget>
 
 #include "canvas/texts.h"
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <exception>
-#include <functional>
 
 #include "store/paths.h"
 #include "store/runtime_error.h"

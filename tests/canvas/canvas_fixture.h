@@ -2,8 +2,6 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <initializer_list>
-#include <string>
 
 #include "canvas/scene_view.h"
 #include "forms/form.h"

@@ -1,7 +1,6 @@
 // Palettes, icons and stock pictures.
 #include "forms/look.h"
 
-#include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -11,7 +10,6 @@
 #include <QImageReader>
 #include <QPalette>
 #include <QRadioButton>
-#include <QStyle>
 
 namespace quorvel::test {
 namespace {

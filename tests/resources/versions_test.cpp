@@ -5,7 +5,6 @@
 
 #include "resources/player_marker.h"
 #include "resources/version_resource.h"
-#include "store/paths.h"
 #include "support/file_bytes.h"
 #include "support/pe_bytes.h"
 #include "support/temp_folder.h"
