@@ -2,16 +2,15 @@
 #pragma once
 
 #include "groups/sheet.h"
-#include "support/windows/shell_fixture.h"
+#include "support/windows/project_fixture.h"
 
 namespace quorvel::test {
 
-class ToolsFixture : public ShellFixture {
+class ToolsFixture : public ProjectFixture {
   protected:
     /// Opens the project of `builder`.
     void open(const ProjectBuilder& builder) {
-        files = builder.build(projects.path());
-        start({text(files.projectPath())});
+        ProjectFixture::open(builder);
         models = std::make_unique<forms::ProjectListModels>(shell->project().lists);
         models->refresh();
         tools = std::make_unique<groups::Tools>(groups::Tools{.project = shell->project(),
@@ -23,7 +22,6 @@ class ToolsFixture : public ShellFixture {
                                                               .lists = *models,
                                                               .beep = [this] { ++beeps; }});
     }
-    TestProject files;
     forms::PictureStore pictures;
     std::unique_ptr<forms::ProjectListModels> models;
     std::unique_ptr<groups::Tools> tools;

@@ -2,14 +2,12 @@
 #pragma once
 
 #include <QApplication>
-#include <QComboBox>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPushButton>
 #include <QTest>
 
 #include "support/gif_bytes.h"
-#include "support/windows/shell_fixture.h"
+#include "support/windows/project_fixture.h"
 
 inline void PrintTo(const QPoint& point, std::ostream* out) {
     *out << point.x() << ", " << point.y();
@@ -20,25 +18,8 @@ inline void PrintTo(const QRect& rect, std::ostream* out) {
 
 namespace quorvel::test {
 
-class CanvasAuthor : public ShellFixture {
+class CanvasAuthor : public ProjectFixture {
   protected:
-    void open(const ProjectBuilder& builder) { openIn(projects.path(), builder); }
-    void openIn(const std::filesystem::path& folder, const ProjectBuilder& builder) {
-        files = builder.build(folder);
-        start({text(files.projectPath())});
-    }
-
-    QWidget& element(const char* name, int index) {
-        return control<QWidget>(main(),
-                                QStringLiteral("%1(%2)").arg(QString::fromLatin1(name)).arg(index));
-    }
-    QWidget& object(int k) { return element("Animation", k); }
-    QWidget& quickSpot(int k) { return element("NoGIF", k); }
-    QWidget& link(int n) { return element("Directionl", n); }
-    QWidget& ghost() { return control<QWidget>(main(), QStringLiteral("DragGhost")); }
-    QPushButton& button(const char* name) {
-        return control<QPushButton>(main(), QString::fromLatin1(name));
-    }
     /// Two scenes, and pictures of 40 by 30 pixels for the first.
     static ProjectBuilder scenes() {
         return ProjectBuilder()
@@ -61,8 +42,6 @@ class CanvasAuthor : public ShellFixture {
         }
         return panels;
     }
-    canvas::Dragging& dragging() { return shell->actions().dragging(); }
-    store::ObjectSlot& slot(int k) { return shell->scene().slot(k); }
     QPoint placeInSlot(int k) { return {slot(k).SlotInt(2), slot(k).SlotInt(3)}; }
 
     /// A point of the canvas as the ghost sees it.
@@ -115,8 +94,6 @@ class CanvasAuthor : public ShellFixture {
     static constexpr int kDown = 231;
     static constexpr int kLeft = 239;
     static constexpr int kRight = 247;
-
-    TestProject files;
 
   private:
     /// Sent to the widget itself: the functions of QTest take a point 0, 0 for the middle.

@@ -1,60 +1,41 @@
 // Working on the canvas of the real window: carrying, inserting, removing, sizing.
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
-
-#include "support/windows/shell_fixture.h"
+#include "shell/scene_fixture.h"
 
 namespace quorvel::test {
 namespace {
 
-class CanvasWork : public ShellFixture {
+class CanvasWork : public SceneFixture {
   protected:
-    void open(const ProjectBuilder& builder) {
-        files = builder.build(projects.path());
-        start({text(files.projectPath())});
-    }
-    QWidget& element(const char* name) {
-        return control<QWidget>(main(), QString::fromLatin1(name));
-    }
-    QPoint onScreen(QPoint canvas) { return main().view().canvas().mapToGlobal(canvas); }
     /// Takes `carried` at `grip` and lets go at a point of the canvas.
     void carry(QWidget& carried, QPoint grip, QPoint to) {
         QTest::mousePress(&carried, Qt::LeftButton, {}, grip);
-        QWidget& ghost = element("DragGhost");
-        EXPECT_TRUE(ghost.isVisible());
+        EXPECT_TRUE(ghost().isVisible());
         EXPECT_FALSE(carried.isVisible());
-        QTest::mouseMove(&ghost, ghost.mapFromGlobal(onScreen(to)));
-        QTest::mouseRelease(&ghost, Qt::LeftButton, {}, ghost.mapFromGlobal(onScreen(to)));
+        QTest::mouseMove(&ghost(), ghost().mapFromGlobal(onScreen(to)));
+        QTest::mouseRelease(&ghost(), Qt::LeftButton, {}, ghost().mapFromGlobal(onScreen(to)));
     }
-    store::ObjectSlot& slot(int k) { return shell->scene().slot(k); }
-    TestProject files;
 };
 
 TEST_F(CanvasWork, ADropPutsTheObjectWhereThePointerLetsItGo) {
     open(ProjectBuilder().object(1, 3, 5, 100, 120).object(1, 4, 6, 300, 200));
-    carry(element("Animation(3)"), {7, 9}, {250, 260});
+    carry(animation(3), {7, 9}, {250, 260});
     EXPECT_EQ(slot(3).SlotInt(2), 243);
     EXPECT_EQ(slot(3).SlotInt(3), 251);
-    EXPECT_EQ(element("Animation(3)").pos(), QPoint(243, 251));
+    EXPECT_EQ(animation(3).pos(), QPoint(243, 251));
 
-    carry(element("Animation(3)"), {1, 1}, {310, 210});
+    carry(animation(3), {1, 1}, {310, 210});
     EXPECT_EQ(slot(3).SlotInt(2), 309) << "over another object the place counts on the canvas";
     EXPECT_EQ(slot(3).SlotInt(3), 209);
 }
 
 TEST_F(CanvasWork, EscapeAndADropOutsidePutTheObjectBack) {
     open(ProjectBuilder().object(1, 3, 5, 100, 120));
-    QWidget& object = element("Animation(3)");
+    QWidget& object = animation(3);
     QTest::mousePress(&object, Qt::LeftButton, {}, {5, 5});
     QTest::keyClick(&main(), Qt::Key_Escape);
+    QTest::mouseRelease(&object, Qt::LeftButton, {}, {5, 5});
     EXPECT_TRUE(object.isVisible());
     carry(object, {5, 5}, {-60, 300});
     EXPECT_TRUE(object.isVisible());
@@ -64,7 +45,7 @@ TEST_F(CanvasWork, EscapeAndADropOutsidePutTheObjectBack) {
 
 TEST_F(CanvasWork, ALinkIsStoredWhereItWasDropped) {
     open(ProjectBuilder().scenes(2));
-    carry(element("Directionl(2)"), {10, 10}, {110, 210});
+    carry(link(2), {10, 10}, {110, 210});
     EXPECT_EQ(shell->scene().LinkUp.left, 100);
     EXPECT_EQ(shell->scene().LinkUp.top, 200);
     action(QStringLiteral("Filemen(3)")).trigger();
@@ -74,7 +55,7 @@ TEST_F(CanvasWork, ALinkIsStoredWhereItWasDropped) {
 
 TEST_F(CanvasWork, ArrowKeysNudgeTheFocusedObject) {
     open(ProjectBuilder().object(1, 3, 5, 100, 120));
-    QWidget& object = element("Animation(3)");
+    QWidget& object = animation(3);
     object.setFocus();
     QTest::keyClick(&object, Qt::Key_Left);
     QTest::keyClick(&object, Qt::Key_Down, Qt::ShiftModifier);
@@ -97,7 +78,7 @@ TEST_F(CanvasWork, InsertsAnObjectAtTheFirstFreeIndex) {
         });
     EXPECT_EQ(slot(3).SlotInt(1), 8);
     EXPECT_EQ(slot(3).SlotInt(9), 4);
-    EXPECT_TRUE(element("Animation(3)").isVisible());
+    EXPECT_TRUE(animation(3).isVisible());
     EXPECT_EQ(control<QLabel>(main(), QStringLiteral("StatusBar2(1)")).text(),
               QStringLiteral("Objects: 3 / 20"));
 }
@@ -111,7 +92,7 @@ TEST_F(CanvasWork, RemovesAnObjectWhenTheAuthorAgrees) {
     shell->actions().RemoveObject(7);
     EXPECT_EQ(slot(7).SlotInt(1), -1);
     EXPECT_EQ(slot(7).SlotInt(25), 5) << "only the type goes";
-    EXPECT_FALSE(element("Animation(7)").isVisible());
+    EXPECT_FALSE(animation(7).isVisible());
     EXPECT_EQ(boxes.shown().front().title, QStringLiteral("Remove Object"));
 }
 
@@ -123,7 +104,8 @@ TEST_F(CanvasWork, TheMenuOfAHotSpotJumpsToItsScene) {
                  record.SlotInt4To29[15 - 4] = 1;
                  record.SlotInt4To29[16 - 4] = 2;
              }));
-    QTest::mousePress(&element("Animation(1)"), Qt::RightButton);
+    QTest::mousePress(&animation(1), Qt::RightButton);
+    QTest::mouseRelease(&animation(1), Qt::RightButton);
     auto& menus = shell->actions().popups();
     auto& jump = control<QAction>(menus, QStringLiteral("JumpToLink"));
     EXPECT_EQ(jump.text(), QStringLiteral("Jump To <2 (Hall)>"));
@@ -135,7 +117,7 @@ TEST_F(CanvasWork, TheMenuOfAHotSpotJumpsToItsScene) {
 TEST_F(CanvasWork, BordersAreDrawnAnewWhenTheWindowComesForward) {
     open(ProjectBuilder().object(1, 7, 5, 100, 120));
     main().view().ToggleBorders(true);
-    QWidget& border = element("hilite(7)");
+    QWidget& border = element("hilite", 7);
     const QRect place = border.geometry();
     QWidget other;
     other.show();
@@ -149,7 +131,7 @@ TEST_F(CanvasWork, BordersAreDrawnAnewWhenTheWindowComesForward) {
 
 TEST_F(CanvasWork, SizesALinkAndRestoresTheLowerOneToItsOwnPlace) {
     open(ProjectBuilder());
-    shell->actions().dragging().CurrentLink = 4;
+    dragging().CurrentLink = 4;
     withWindow(
         QStringLiteral("ResizeD"), [this] { shell->actions().showResize(); },
         [this](QWidget& window) {

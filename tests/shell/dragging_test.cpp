@@ -37,10 +37,10 @@ TEST_F(DraggingTest, TheDropIsThePointerLessTheGripWhateverLiesBelow) {
         Drop{"the last pixel", {0, 0}, {699, 474}, {699, 474}},
     };
     for (const Drop& drop : kDrops) {
-        carry(object(3), drop.grip, drop.to);
+        carry(animation(3), drop.grip, drop.to);
         EXPECT_EQ(placeInSlot(3), drop.place) << drop.what;
-        EXPECT_EQ(object(3).pos(), drop.place) << drop.what;
-        EXPECT_TRUE(object(3).isVisible()) << drop.what;
+        EXPECT_EQ(animation(3).pos(), drop.place) << drop.what;
+        EXPECT_TRUE(animation(3).isVisible()) << drop.what;
     }
     leaveScene();
     EXPECT_EQ(storedPlace(1, 3), QPoint(699, 474));
@@ -49,7 +49,7 @@ TEST_F(DraggingTest, TheDropIsThePointerLessTheGripWhateverLiesBelow) {
 
 TEST_F(DraggingTest, AnElementThatReachesOutOfTheCanvasCanBeTakenAtItsRest) {
     open(scenes().object(1, 3, 0, -20, 445, "a.gif"));
-    carry(object(3), {39, 0}, {139, 300});
+    carry(animation(3), {39, 0}, {139, 300});
     EXPECT_EQ(placeInSlot(3), QPoint(100, 300));
 }
 
@@ -57,7 +57,7 @@ TEST_F(DraggingTest, QuickSpotsAndUnknownTypesAreCarriedToo) {
     open(withQuickSpot().object(1, 5, 42, 10, 20));
     ASSERT_TRUE(quickSpot(4).isVisible());
     carry(quickSpot(4), {5, 6}, {105, 206});
-    carry(object(5), {2, 2}, {312, 222});
+    carry(animation(5), {2, 2}, {312, 222});
     EXPECT_EQ(quickSpot(4).pos(), QPoint(100, 200));
     leaveScene();
     EXPECT_EQ(storedPlace(1, 4), QPoint(100, 200));
@@ -68,7 +68,7 @@ TEST_F(DraggingTest, QuickSpotsAndUnknownTypesAreCarriedToo) {
 TEST_F(DraggingTest, NothingIsWrittenWhileTheAuthorDrags) {
     open(scenes().object(1, 3, 0, 100, 120, "a.gif"));
     const FolderSnapshot before = snapshotOf(projects.path());
-    carry(object(3), {1, 1}, {300, 300});
+    carry(animation(3), {1, 1}, {300, 300});
     carry(link(2), {1, 1}, {300, 300});
     EXPECT_EQ(differences(before, snapshotOf(projects.path())), "");
 }
@@ -76,12 +76,12 @@ TEST_F(DraggingTest, NothingIsWrittenWhileTheAuthorDrags) {
 TEST_F(DraggingTest, TheStateOfTheDragSaysWhatIsCarried) {
     open(scenes().object(1, 3, 0, 100, 120, "a.gif"));
     EXPECT_EQ(dragging().DraggingObject, 0);
-    take(object(3), {11, 12});
+    take(animation(3), {11, 12});
     EXPECT_EQ(dragging().DraggingObject, 1);
     EXPECT_EQ(dragging().DragIndex, 3);
     EXPECT_EQ(dragging().DragOffsetX, 11);
     EXPECT_EQ(dragging().DragOffsetY, 12);
-    EXPECT_FALSE(object(3).isVisible());
+    EXPECT_FALSE(animation(3).isVisible());
     moveTo({300, 200});
     EXPECT_EQ(ghost().pos(), QPoint(289, 188));
     letGo({300, 200});
@@ -98,7 +98,7 @@ TEST_F(DraggingTest, TheStateOfTheDragSaysWhatIsCarried) {
 
 TEST_F(DraggingTest, AnotherButtonDoesNotDisturbTheDrag) {
     open(scenes().object(1, 3, 0, 100, 120, "a.gif").object(1, 4, 0, 300, 200, "a.gif"));
-    take(object(3), {5, 5});
+    take(animation(3), {5, 5});
     moveTo({310, 210});
     for (const Qt::MouseButton other : {Qt::RightButton, Qt::MiddleButton}) {
         QTest::mousePress(&ghost(), other, {}, underGhost({310, 210}));
@@ -113,12 +113,12 @@ TEST_F(DraggingTest, AnotherButtonDoesNotDisturbTheDrag) {
 
 TEST_F(DraggingTest, ASecondDragMayFollowAtOnce) {
     open(scenes().object(1, 3, 0, 100, 120, "a.gif"));
-    take(object(3), {5, 5});
+    take(animation(3), {5, 5});
     letGo({105, 125});
     EXPECT_EQ(placeInSlot(3), QPoint(100, 120)) << "a click moves nothing";
     QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(5, 5),
-                       object(3).mapToGlobal(QPointF(5, 5)), Qt::LeftButton, Qt::LeftButton, {});
-    QApplication::sendEvent(&object(3), &second);
+                       animation(3).mapToGlobal(QPointF(5, 5)), Qt::LeftButton, Qt::LeftButton, {});
+    QApplication::sendEvent(&animation(3), &second);
     EXPECT_TRUE(dragging().isDragging()) << "the press of a quick second drag";
     letGo({205, 205});
     EXPECT_EQ(placeInSlot(3), QPoint(200, 200));
@@ -126,7 +126,7 @@ TEST_F(DraggingTest, ASecondDragMayFollowAtOnce) {
 
 TEST_F(DraggingTest, NothingIsLostWhenThePointerLeavesTheWindow) {
     open(scenes().object(1, 3, 0, 100, 120, "a.gif"));
-    take(object(3), {5, 5});
+    take(animation(3), {5, 5});
     moveTo({-2000, -2000});
     moveTo({4000, 3000});
     EXPECT_TRUE(dragging().isDragging());
@@ -142,7 +142,7 @@ TEST_F(DraggingTest, TheAlertFollowsEachDrop) {
     const auto alertAfter = [this](QPoint place) {
         // Held where the pointer stays on the canvas.
         const QPoint grip(place.x() < 0 ? -place.x() : 0, place.y() < 0 ? -place.y() : 0);
-        carry(object(3), grip, place + grip);
+        carry(animation(3), grip, place + grip);
         EXPECT_EQ(placeInSlot(3), place);
         return alertShown();
     };
@@ -159,13 +159,13 @@ TEST_F(DraggingTest, TheAlertFollowsEachDrop) {
 
 TEST_F(DraggingTest, APictureOneWideIsOutAtOnePixel) {
     open(scenes().object(1, 3, 0, 5, 5, "dot.gif"));
-    object(3).setFocus();
+    animation(3).setFocus();
     for (int i = 0; i < 5; ++i) {
         EXPECT_FALSE(alertShown());
-        QTest::keyClick(&object(3), Qt::Key_Left);
+        QTest::keyClick(&animation(3), Qt::Key_Left);
     }
     EXPECT_FALSE(alertShown());
-    QTest::keyClick(&object(3), Qt::Key_Left);
+    QTest::keyClick(&animation(3), Qt::Key_Left);
     EXPECT_EQ(placeInSlot(3), QPoint(-1, 5));
     EXPECT_TRUE(alertShown());
 }
@@ -180,24 +180,24 @@ TEST_F(DraggingTest, AQuickSpotRaisesNoAlert) {
 TEST_F(DraggingTest, BordersAreDrawnAnewAfterADrop) {
     open(scenes().object(1, 3, 0, 100, 120, "a.gif"));
     main().view().ToggleBorders(true);
-    take(object(3), {0, 0});
+    take(animation(3), {0, 0});
     EXPECT_FALSE(element("hilite", 3).isVisible()) << "not where nothing is";
     letGo({200, 210});
     EXPECT_TRUE(element("hilite", 3).isVisible());
     EXPECT_EQ(element("hilite", 3).geometry(), QRect(199, 209, 42, 32));
     carry(link(1), {0, 0}, {300, 40});
     EXPECT_EQ(element("Shape2", 1).geometry(), QRect(299, 39, 35, 412));
-    take(object(3), {0, 0});
+    take(animation(3), {0, 0});
     QTest::keyClick(&main(), Qt::Key_Escape);
     EXPECT_TRUE(element("hilite", 3).isVisible()) << "back with what was put back";
     main().view().ToggleBorders(false);
-    carry(object(3), {0, 0}, {50, 50});
+    carry(animation(3), {0, 0}, {50, 50});
     EXPECT_FALSE(element("hilite", 3).isVisible());
 }
 
 TEST_F(DraggingTest, TheStatusLineSaysWhereTheDropWas) {
     open(withQuickSpot().object(1, 3, 0, 100, 120, "a.gif"));
-    carry(object(3), {10, 0}, {5, 70});
+    carry(animation(3), {10, 0}, {5, 70});
     EXPECT_EQ(status(), (QStringList{QStringLiteral("Object: Ambient"), QStringLiteral("Index: 3"),
                                      QStringLiteral("Pos: x=-5 , y= 70"),
                                      QStringLiteral("Size: 30h X 40w")}));
@@ -214,14 +214,14 @@ TEST_F(DraggingTest, TheStatusLineSaysWhereTheDropWas) {
 TEST_F(DraggingTest, TheButtonCommand4PutsTheElementInTheCornerAndKeepsItsSlot) {
     open(scenes().object(1, 3, 0, 100, 120, "a.gif"));
     dragging().DropOnCommand4();
-    EXPECT_EQ(object(3).pos(), QPoint(100, 120)) << "nothing was carried";
-    take(object(3), {5, 5});
+    EXPECT_EQ(animation(3).pos(), QPoint(100, 120)) << "nothing was carried";
+    take(animation(3), {5, 5});
     dragging().DropOnCommand4();
     EXPECT_EQ(dragging().DraggingObject, 0);
-    EXPECT_TRUE(object(3).isVisible());
-    EXPECT_EQ(object(3).pos(), QPoint(0, 0));
+    EXPECT_TRUE(animation(3).isVisible());
+    EXPECT_EQ(animation(3).pos(), QPoint(0, 0));
     EXPECT_EQ(placeInSlot(3), QPoint(100, 120));
-    carry(object(3), {5, 5}, {25, 35});
+    carry(animation(3), {5, 5}, {25, 35});
     EXPECT_EQ(placeInSlot(3), QPoint(20, 30));
 }
 
@@ -268,12 +268,12 @@ TEST_F(DraggingTest, EachLinkIsStoredInItsOwnGroup) {
 
 TEST_F(DraggingTest, AClosedProjectEndsTheDrag) {
     open(scenes().object(1, 3, 0, 100, 120, "a.gif"));
-    take(object(3), {5, 5});
+    take(animation(3), {5, 5});
     action(QStringLiteral("Filemen(3)")).trigger();
     EXPECT_FALSE(shell->project().ProjectOpen);
     EXPECT_FALSE(dragging().isDragging());
     EXPECT_FALSE(ghost().isVisible());
-    EXPECT_FALSE(object(3).isVisible());
+    EXPECT_FALSE(animation(3).isVisible());
     EXPECT_EQ(storedPlace(1, 3), QPoint(100, 120));
 }
 
@@ -303,7 +303,7 @@ TEST_F(DraggingTest, TheFocusOfTheKeyboardIsSeenOnTheCanvas) {
     QApplication::setActiveWindow(&main());
     auto& outline = control<QWidget>(main(), QStringLiteral("FocusOutline"));
     EXPECT_FALSE(outline.isVisible());
-    object(3).setFocus(Qt::TabFocusReason);
+    animation(3).setFocus(Qt::TabFocusReason);
     EXPECT_TRUE(outline.isVisible());
     EXPECT_EQ(outline.geometry(), QRect(97, 117, 46, 36));
     EXPECT_TRUE(outline.testAttribute(Qt::WA_TransparentForMouseEvents));
@@ -315,20 +315,20 @@ TEST_F(DraggingTest, TheFocusOfTheKeyboardIsSeenOnTheCanvas) {
     }
     EXPECT_GT(contrast, 100);
 
-    QTest::keyClick(&object(3), Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClick(&animation(3), Qt::Key_Right, Qt::ShiftModifier);
     EXPECT_EQ(outline.geometry(), QRect(107, 117, 46, 36)) << "it goes along";
-    object(4).setFocus(Qt::TabFocusReason);
+    animation(4).setFocus(Qt::TabFocusReason);
     EXPECT_TRUE(main().view().canvas().rect().contains(outline.geometry()))
         << "what is off the canvas is marked at its edge";
     EXPECT_EQ(outline.x(), 0);
-    carry(object(3), {0, 0}, {300, 300});
+    carry(animation(3), {0, 0}, {300, 300});
     EXPECT_FALSE(outline.isVisible()) << "the mouse needs none";
-    QTest::keyClick(&object(3), Qt::Key_Right);
+    QTest::keyClick(&animation(3), Qt::Key_Right);
     EXPECT_TRUE(outline.isVisible()) << "until the keyboard goes on from there";
-    take(object(3), {0, 0});
+    take(animation(3), {0, 0});
     EXPECT_FALSE(outline.isVisible());
     QTest::keyClick(&main(), Qt::Key_Escape);
-    object(3).setFocus(Qt::TabFocusReason);
+    animation(3).setFocus(Qt::TabFocusReason);
     leaveScene();
     EXPECT_FALSE(outline.isVisible() && !main().focusWidget()->isVisible());
     main().setFocus();
@@ -346,7 +346,7 @@ TEST_F(DraggingTest, AMoveOfTheGhostOverTwentyAnimationsCostsLessThanAFrame) {
     open(full);
     main().view().ToggleBorders(true);
     main().view().ToggleAnimations(true);
-    take(object(20), {10, 10});
+    take(animation(20), {10, 10});
     constexpr int kMoves = 100;
     std::vector<qint64> costs;
     for (int i = 0; i < kMoves; ++i) {

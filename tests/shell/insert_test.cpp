@@ -138,7 +138,7 @@ TEST_F(InsertTest, TheObjectComesWhereTheClickWas) {
     openSceneMenu({321, 234});
     insert(insertLink(), 0);
     EXPECT_EQ(placeInSlot(1), QPoint(321, 234));
-    EXPECT_EQ(object(1).pos(), QPoint(321, 234));
+    EXPECT_EQ(animation(1).pos(), QPoint(321, 234));
     insert(5);
     EXPECT_EQ(placeInSlot(2), QPoint(0, 0)) << "from the menu in the corner";
     openSceneMenu({100, 101});
@@ -157,15 +157,15 @@ TEST_F(InsertTest, AFreshObjectIsShownAndItsPropertiesOpen) {
     insert(4);
     EXPECT_EQ(opened, 3);
     EXPECT_EQ(shell->actions().PopupObject, 3);
-    EXPECT_TRUE(object(3).isVisible());
-    EXPECT_EQ(object(3).property("tag").toString(), QStringLiteral("Reactor"));
-    EXPECT_EQ(element("hilite", 3).geometry(), object(3).geometry().adjusted(-1, -1, 1, 1));
+    EXPECT_TRUE(animation(3).isVisible());
+    EXPECT_EQ(animation(3).property("tag").toString(), QStringLiteral("Reactor"));
+    EXPECT_EQ(element("hilite", 3).geometry(), animation(3).geometry().adjusted(-1, -1, 1, 1));
     EXPECT_TRUE(element("hilite", 3).isVisible());
     EXPECT_EQ(count(), QStringLiteral("Objects: 3 / 20"));
     boxes.answer(Answer::yes);
     shell->actions().RemoveObject(3);
     EXPECT_FALSE(element("hilite", 3).isVisible());
-    EXPECT_EQ(object(3).property("tag").toString(), QString());
+    EXPECT_EQ(animation(3).property("tag").toString(), QString());
     EXPECT_EQ(count(), QStringLiteral("Objects: 2 / 20"));
 }
 

@@ -1,67 +1,40 @@
 // Moving between scenes and adding scenes, through the controls of the main window.
 #include <gtest/gtest.h>
 
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
-
-#include "support/windows/shell_fixture.h"
+#include "shell/scene_fixture.h"
 
 namespace quorvel::test {
 namespace {
 
 using store::HeaderString;
 
-class Navigation : public ShellFixture {
+class Navigation : public SceneFixture {
   protected:
-    void open(const ProjectBuilder& builder) {
-        files = builder.build(projects.path());
-        start({text(files.projectPath())});
-    }
-    QPushButton& button(const char* name) {
-        return control<QPushButton>(main(), QString::fromLatin1(name));
-    }
-    QComboBox& list(const char* name) {
-        return control<QComboBox>(main(), QString::fromLatin1(name));
-    }
-    QString shownNumber() { return control<QLineEdit>(main(), QStringLiteral("CurScene")).text(); }
-    void choose(QComboBox& combo, int row) {
+    QString shownNumber() { return number().text(); }
+    static void choose(QComboBox& combo, int row) {
         combo.setCurrentIndex(row);
         Q_EMIT combo.activated(row);
     }
-    void type(const QString& number) {
-        auto& edit = control<QLineEdit>(main(), QStringLiteral("CurScene"));
-        edit.setFocus();
-        edit.selectAll();
-        QTest::keyClicks(&edit, number);
-        QTest::keyClick(&edit, Qt::Key_Return);
+    void type(const QString& digits) {
+        number().setFocus();
+        number().selectAll();
+        QTest::keyClicks(&number(), digits);
+        QTest::keyClick(&number(), Qt::Key_Return);
     }
-    void addScene(int option) {
-        withWindow(
-            QStringLiteral("NewScenefrm"),
-            [this] { action(QStringLiteral("projmen(1)")).trigger(); },
-            [option](QWidget& window) {
-                control<QRadioButton>(window, QStringLiteral("Option1(%1)").arg(option)).click();
-                control<QPushButton>(window, QStringLiteral("Command3")).click();
-            });
-    }
-    TestProject files;
 };
 
 TEST_F(Navigation, StepsThroughTheScenesAndStopsAtBothEnds) {
     open(ProjectBuilder().scenes(3));
     EXPECT_FALSE(button("Command5").isEnabled());
     EXPECT_TRUE(button("Command6").isEnabled());
-    button("Command6").click();
+    next();
     EXPECT_EQ(shownNumber(), QStringLiteral("2"));
     EXPECT_EQ(list("Combo1").currentIndex(), 2);
     EXPECT_TRUE(button("Command5").isEnabled());
-    button("Command6").click();
-    EXPECT_EQ(shell->project().CurrentScene, 3);
+    next();
+    EXPECT_EQ(current(), 3);
     EXPECT_FALSE(button("Command6").isEnabled());
-    button("Command5").click();
+    previous();
     EXPECT_EQ(shownNumber(), QStringLiteral("2"));
 }
 
@@ -74,11 +47,11 @@ TEST_F(Navigation, HasNoWayOutOfTheOnlyScene) {
 TEST_F(Navigation, SavesWhatIsLeft) {
     open(ProjectBuilder().scenes(2));
     shell->scene().header(HeaderString::SceneName) = "Hall";
-    shell->scene().slot(4).SlotInt(36) = 777;
-    button("Command6").click();
+    slot(4).SlotInt(36) = 777;
+    next();
     EXPECT_EQ(readBytes(files.storePath(1), 0, 15), "Hall           ");
     EXPECT_EQ(readInt(files.storePath(1), 255 + 3 * 207 + 205), 777);
-    button("Command5").click();
+    previous();
     EXPECT_EQ(shell->scene().header(HeaderString::SceneName), "Hall");
 }
 
@@ -110,23 +83,23 @@ TEST_F(Navigation, JumpsToTheSceneOfALocation) {
              .location(3, "Mill", 3));
     choose(list("LocList"), 1);
     choose(list("LocList"), 2);
-    EXPECT_EQ(shell->project().CurrentScene, 1);
+    EXPECT_EQ(current(), 1);
     EXPECT_EQ(
         boxes.texts(),
         (QStringList{
             QStringLiteral("There is no scene linked to location 'Gate'!"),
             QStringLiteral("Location 'Yard' is linked to the scene currently being displayed!")}));
     choose(list("LocList"), 3);
-    EXPECT_EQ(shell->project().CurrentScene, 3);
+    EXPECT_EQ(current(), 3);
 }
 
 TEST_F(Navigation, TakesATypedNumberWithinTheProject) {
     open(ProjectBuilder().scenes(12));
     type(QStringLiteral("12"));
-    EXPECT_EQ(shell->project().CurrentScene, 12);
+    EXPECT_EQ(current(), 12);
     for (const char* refused : {"13", "0", "-1", "x", "99999999999"}) {
         type(QString::fromLatin1(refused));
-        EXPECT_EQ(shell->project().CurrentScene, 12) << refused;
+        EXPECT_EQ(current(), 12) << refused;
         EXPECT_EQ(shownNumber(), QStringLiteral("12")) << refused;
     }
 }
@@ -134,7 +107,7 @@ TEST_F(Navigation, TakesATypedNumberWithinTheProject) {
 TEST_F(Navigation, AddsAnEmptyScene) {
     open(ProjectBuilder().scenes(2).object(1, 3, 2, 10, 20));
     addScene(0);
-    EXPECT_EQ(shell->project().CurrentScene, 3);
+    EXPECT_EQ(current(), 3);
     EXPECT_EQ(shownNumber(), QStringLiteral("3"));
     EXPECT_EQ(list("Combo1").itemText(3), QStringLiteral("3 ()"));
     EXPECT_EQ(list("Combo1").currentIndex(), 3);
@@ -152,20 +125,20 @@ TEST_F(Navigation, AddsACloseupThatLeadsBack) {
     EXPECT_EQ(shell->scene().LinkDown.target, 2);
     const std::uintmax_t record = 2 * sizeof(store::SceneRecord);
     EXPECT_EQ(readInt(files.storePath(1), record + 213), 0) << "only in memory yet";
-    button("Command5").click();
+    previous();
     EXPECT_EQ(readInt(files.storePath(1), record + 211), 9);
     EXPECT_EQ(readInt(files.storePath(1), record + 213), 2);
 }
 
 TEST_F(Navigation, AddsAnExactCopyOfWhatIsInMemory) {
     open(ProjectBuilder().scenes(1).object(1, 1, 5, 100, 120).object(1, 20, 8, 3, 4));
-    shell->scene().slot(1).SlotInt(2) = 333;
-    shell->scene().slot(20).SlotInt(30) = -7;
+    slot(1).SlotInt(2) = 333;
+    slot(20).SlotInt(30) = -7;
     shell->scene().header(HeaderString::SceneName) = "Twin";
     addScene(2);
-    EXPECT_EQ(shell->project().CurrentScene, 2);
-    EXPECT_EQ(shell->scene().slot(1).SlotInt(2), 333);
-    EXPECT_EQ(shell->scene().slot(20).SlotInt(30), -7);
+    EXPECT_EQ(current(), 2);
+    EXPECT_EQ(slot(1).SlotInt(2), 333);
+    EXPECT_EQ(slot(20).SlotInt(30), -7);
     EXPECT_EQ(shell->scene().objectCount(), 2);
     EXPECT_EQ(list("Combo1").itemText(2), QStringLiteral("2 (Twin)"));
     EXPECT_EQ(

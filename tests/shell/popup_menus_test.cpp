@@ -148,7 +148,7 @@ TEST_F(PopupMenus, EachTypeOpensItsOwn) {
     }
     open(builder);
     for (int type = 0; type < 10; ++type) {
-        EXPECT_EQ(menuOf(object(type + 1)),
+        EXPECT_EQ(menuOf(animation(type + 1)),
                   QString::fromLatin1(kByType.at(static_cast<std::size_t>(type))));
         EXPECT_EQ(shell->actions().PopupObject, type + 1);
         const QList<QAction*> entries = shownMenu()->actions();
@@ -187,7 +187,7 @@ TEST_F(PopupMenus, AnEditorThatIsThereIsOpenedOnTheObject) {
     int opened = 0;
     shell->actions().registerEditor(store::ObjectType::delay,
                                     [&] { opened = shell->actions().CurObj; });
-    menuOf(object(3));
+    menuOf(animation(3));
     ASSERT_TRUE(entry("DelProp(1)").isEnabled());
     entry("DelProp(1)").trigger();
     EXPECT_EQ(opened, 3);
@@ -197,9 +197,9 @@ TEST_F(PopupMenus, AnEditorThatIsThereIsOpenedOnTheObject) {
 TEST_F(PopupMenus, AnEntryRemovesTheObject) {
     open(scenes().object(1, 3, 9, 100, 120).object(1, 5, 6, 200, 120));
     boxes.answer(Answer::yes).answer(Answer::yes);
-    menuOf(object(3));
+    menuOf(animation(3));
     entry("remFC").trigger();
-    menuOf(object(5));
+    menuOf(animation(5));
     entry("DelProp(2)").trigger();
     leaveScene();
     EXPECT_EQ(stored(1, 3, 0), -1);
@@ -211,7 +211,7 @@ TEST_F(PopupMenus, AnUnknownTypeHasABoxInstead) {
     open(scenes().object(1, 3, 42, 100, 120).object(1, 4, -2, 300, 120));
     for (int k = 3; k <= 4; ++k) {
         boxes.forget();
-        EXPECT_EQ(menuOf(object(k)), QString());
+        EXPECT_EQ(menuOf(animation(k)), QString());
         ASSERT_EQ(boxes.shown().size(), 1U);
         EXPECT_EQ(boxes.shown()[0].title, QStringLiteral("Unknown Object Type!"));
         EXPECT_EQ(boxes.texts()[0],
@@ -223,9 +223,10 @@ TEST_F(PopupMenus, AnUnknownTypeHasABoxInstead) {
 
 TEST_F(PopupMenus, TheMenuKeyOpensTheMenuOfTheFocusedObject) {
     open(scenes().object(1, 3, 6, 100, 120));
-    object(3).setFocus();
-    QContextMenuEvent key(QContextMenuEvent::Keyboard, {1, 1}, object(3).mapToGlobal(QPoint(1, 1)));
-    QApplication::sendEvent(&object(3), &key);
+    animation(3).setFocus();
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, {1, 1},
+                          animation(3).mapToGlobal(QPoint(1, 1)));
+    QApplication::sendEvent(&animation(3), &key);
     ASSERT_NE(shownMenu(), nullptr);
     EXPECT_EQ(shownMenu()->objectName(), QStringLiteral("EdDelay"));
 }
@@ -238,12 +239,12 @@ TEST_F(PopupMenus, AJumpWithoutATargetIsDisabledAndSaysSo) {
         EXPECT_EQ(entry(name).text(), QStringLiteral("(No Link Defined)")) << name;
         EXPECT_FALSE(entry(name).isEnabled()) << name;
     };
-    menuOf(object(1));
+    menuOf(animation(1));
     expectNone("JumpToLink");
     EXPECT_EQ(shell->actions().JumpTarget, 0);
-    menuOf(object(2));
+    menuOf(animation(2));
     expectNone("JumpToResp");
-    menuOf(object(3));
+    menuOf(animation(3));
     expectNone("JumpToEnd(1)");
     expectNone("JumpToEnd(2)");
     expectNone("JumpToEnd(3)");
@@ -265,7 +266,7 @@ TEST_F(PopupMenus, AJumpNamesItsSceneAndSavesTheOneThatIsLeft) {
     menuOf(link(3));
     EXPECT_EQ(entry("JumpToDir").text(), QStringLiteral("Jump To <3 (R && D)>"));
     EXPECT_TRUE(entry("JumpToDir").isEnabled());
-    menuOf(object(1));
+    menuOf(animation(1));
     EXPECT_EQ(entry("JumpToResp").text(), QStringLiteral("Jump To <3 (R && D)>"));
     slot(1).SlotInt(36) = 77;
     entry("JumpToResp").trigger();
@@ -286,13 +287,13 @@ TEST_F(PopupMenus, TheThreeJumpsOfAMultiTriggerLeadToTheirOwnScenes) {
              .editSlot(1, 1, three)
              .object(2, 1, 7, 100, 120)
              .editSlot(2, 1, three));
-    menuOf(object(1));
+    menuOf(animation(1));
     EXPECT_EQ(entry("JumpToEnd(1)").text(), QStringLiteral("Jump To <2 (Hall)>"));
     EXPECT_FALSE(entry("JumpToEnd(2)").isEnabled());
     EXPECT_EQ(entry("JumpToEnd(3)").text(), QStringLiteral("Jump To <3 (R && D)>"));
     entry("JumpToEnd(1)").trigger();
     EXPECT_EQ(shell->project().CurrentScene, 2);
-    menuOf(object(1));
+    menuOf(animation(1));
     entry("JumpToEnd(3)").trigger();
     EXPECT_EQ(shell->project().CurrentScene, 3);
 }
@@ -301,7 +302,7 @@ TEST_F(PopupMenus, ATargetThatIsNoSceneIsNone) {
     open(scenes().object(1, 1, 5, 100, 120));
     for (const int target : {4, -1, 32767, -32768}) {
         slot(1).SlotInt(15) = static_cast<std::int16_t>(target);
-        menuOf(object(1));
+        menuOf(animation(1));
         EXPECT_FALSE(entry("JumpToResp").isEnabled()) << target;
     }
 }
@@ -310,7 +311,7 @@ TEST_F(PopupMenus, AHotSpotToTheMapHasNoJump) {
     open(scenes().object(1, 1, 1, 100, 120));
     slot(1).SlotInt(15) = 2;
     slot(1).SlotInt(16) = 2;
-    menuOf(object(1));
+    menuOf(animation(1));
     EXPECT_FALSE(entry("JumpToLink").isEnabled());
 }
 

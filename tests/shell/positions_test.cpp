@@ -24,7 +24,7 @@ class PositionsTest : public CanvasAuthor {};
 TEST_F(PositionsTest, RestoreAsksAndPutsEverythingBack) {
     open(withQuickSpot().object(1, 3, 0, 100, 120, "a.gif"));
     EXPECT_TRUE(button("RestoreObjs").isEnabled());
-    carry(object(3), {0, 0}, {300, 300});
+    carry(animation(3), {0, 0}, {300, 300});
     carry(quickSpot(4), {0, 0}, {350, 350});
     carry(link(1), {0, 0}, {250, 60});
     boxes.answer(Answer::no).answer(Answer::yes);
@@ -54,13 +54,13 @@ TEST_F(PositionsTest, AnObjectInsertedSinceMovesOnlyAfterTheSceneIsShownAgain) {
     shell->actions().InsertX = 60;
     shell->actions().InsertY = 70;
     shell->actions().InsertObject(store::ObjectType::delay, 2);
-    carry(object(2), {0, 0}, {300, 300});
+    carry(animation(2), {0, 0}, {300, 300});
     boxes.answer(Answer::yes).answer(Answer::yes);
     button("RestoreObjs").click();
     EXPECT_EQ(placeInSlot(2), QPoint(300, 300)) << "no place is remembered";
     leaveScene();
     button("Command5").click();
-    carry(object(2), {0, 0}, {400, 100});
+    carry(animation(2), {0, 0}, {400, 100});
     button("RestoreObjs").click();
     EXPECT_EQ(placeInSlot(2), QPoint(300, 300));
 }
@@ -68,8 +68,8 @@ TEST_F(PositionsTest, AnObjectInsertedSinceMovesOnlyAfterTheSceneIsShownAgain) {
 TEST_F(PositionsTest, TheMark999IsTakenLiterally) {
     open(scenes().object(1, 3, 0, 999, 120, "a.gif").object(1, 4, 0, 100, 120, "a.gif"));
     for (int k = 3; k <= 4; ++k) {
-        object(k).setFocus();
-        QTest::keyClick(&object(k), Qt::Key_Up);
+        animation(k).setFocus();
+        QTest::keyClick(&animation(k), Qt::Key_Up);
     }
     boxes.answer(Answer::yes);
     button("RestoreObjs").click();
@@ -95,7 +95,7 @@ TEST_F(PositionsTest, TheObjectAlertAsksForEachObjectAndRestoreBringsItBackOutsi
         EXPECT_EQ(box.buttons, Box::Buttons::yesNo);
     }
     EXPECT_EQ(placeInSlot(3), QPoint(0, 0));
-    EXPECT_EQ(object(3).pos(), QPoint(0, 0));
+    EXPECT_EQ(animation(3).pos(), QPoint(0, 0));
     EXPECT_EQ(element("hilite", 3).pos(), QPoint(-1, -1));
     EXPECT_EQ(placeInSlot(20), QPoint(100, 500));
     EXPECT_TRUE(alertShown()) << "one is still out";

@@ -206,7 +206,7 @@ TEST_F(UnsavedScene, OnADiscTheAuthorIsToldOnceAndGoesOn) {
     button("Command6").click();
     button("Command6").click();
     EXPECT_EQ(shownScene(), 3);
-    EXPECT_TRUE(object(1).isVisible());
+    EXPECT_TRUE(animation(1).isVisible());
     EXPECT_EQ(boxes.shown().size(), 1U) << "once for each project";
     withWindow(
         QStringLiteral("NewScenefrm"), [this] { action(QStringLiteral("projmen(1)")).trigger(); },
@@ -237,12 +237,12 @@ TEST_F(UnsavedScene, OnAFullDiskTheAuthorStaysWithTheSceneAsItIs) {
     const FolderSnapshot before = snapshotOf(disk.path());
     start({text(files.projectPath())});
     ASSERT_TRUE(shell->project().ProjectOpen);
-    carry(object(3), {0, 0}, {300, 310});
+    carry(animation(3), {0, 0}, {300, 310});
     const auto expectStayed = [&](std::size_t told) {
         EXPECT_EQ(shownScene(), 2);
         EXPECT_EQ(placeInSlot(3), QPoint(300, 310));
-        EXPECT_EQ(object(3).pos(), QPoint(300, 310));
-        EXPECT_TRUE(object(3).isVisible());
+        EXPECT_EQ(animation(3).pos(), QPoint(300, 310));
+        EXPECT_TRUE(animation(3).isVisible());
         EXPECT_EQ(boxes.shown().size(), told);
         EXPECT_EQ(boxes.texts().back(),
                   QStringLiteral("An unexpected error has occured:\n61 / Disk full"));

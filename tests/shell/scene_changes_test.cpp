@@ -7,11 +7,6 @@
 #include <iostream>
 
 #include <QAbstractItemView>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QTimer>
 
 #include "shell/scene_fixture.h"
@@ -25,26 +20,7 @@ using store::HeaderString;
 
 constexpr const char* kFull = "An unexpected error has occured:\n61 / Disk full";
 
-class SceneChanges : public SceneFixture {
-  protected:
-    QPushButton& button(const char* name) {
-        return control<QPushButton>(main(), QString::fromLatin1(name));
-    }
-    QComboBox& list(const char* name) {
-        return control<QComboBox>(main(), QString::fromLatin1(name));
-    }
-    QLineEdit& number() { return control<QLineEdit>(main(), QStringLiteral("CurScene")); }
-    int current() { return shell->project().CurrentScene; }
-    void addScene(int option) {
-        withWindow(
-            QStringLiteral("NewScenefrm"),
-            [this] { action(QStringLiteral("projmen(1)")).trigger(); },
-            [option](QWidget& window) {
-                control<QRadioButton>(window, QStringLiteral("Option1(%1)").arg(option)).click();
-                control<QPushButton>(window, QStringLiteral("Command3")).click();
-            });
-    }
-};
+using SceneChanges = SceneFixture;
 
 TEST_F(SceneChanges, OneRecordIsWrittenAndOneIsRead) {
     open(ProjectBuilder().scenes(5).object(1, 1, 5, 10, 10));
@@ -191,7 +167,7 @@ TEST_F(SceneChanges, AFullDiskKeepsTheAuthorAndHisWork) {
     start({text(files.projectPath())});
     shell->project().NumberOfScenes = 2;
     shell->project().lists.scenes.push_back({2, "Later", 0});
-    control<QPushButton>(main(), QStringLiteral("Command6")).setEnabled(true);
+    button("Command6").setEnabled(true);
     carry({110, 110}, {210, 210});
     disk.fill();
     next();
@@ -237,8 +213,8 @@ TEST_F(SceneChanges, AReadOnlyProjectIsToldOnceAndCanBeWalked) {
     next();
     EXPECT_EQ(current(), 3);
     EXPECT_LE(boxes.shown().size(), 1U);
-    control<QPushButton>(main(), QStringLiteral("Command5")).click();
-    control<QPushButton>(main(), QStringLiteral("Command5")).click();
+    previous();
+    previous();
     EXPECT_EQ(slot(4).SlotInt(2), 100) << "what could not be written is not there";
     boxes.forget();
     addScene(0);
@@ -254,7 +230,7 @@ TEST_F(SceneChanges, PreviousFindsTheWayBackFromBeyondTheStore) {
         GTEST_SKIP() << "opening leads to scene " << current();
     }
     EXPECT_FALSE(button("Command6").isEnabled());
-    button("Command5").click();
+    previous();
     EXPECT_EQ(current(), 3);
 }
 

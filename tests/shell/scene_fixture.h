@@ -4,44 +4,49 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 #include <QWindow>
 
-#include "support/windows/shell_fixture.h"
+#include "support/windows/project_fixture.h"
 
 namespace quorvel::test {
 
-class SceneFixture : public ShellFixture {
+class SceneFixture : public ProjectFixture {
   protected:
-    void open(const ProjectBuilder& builder) {
-        files = builder.build(projects.path());
-        start({text(files.projectPath())});
-    }
-    QWidget& element(const QString& name) { return control<QWidget>(main(), name); }
-    QWidget& animation(int k) { return element(QStringLiteral("Animation(%1)").arg(k)); }
-    QWidget& quickSpot(int k) { return element(QStringLiteral("NoGIF(%1)").arg(k)); }
-    QWidget& link(int n) { return element(QStringLiteral("Directionl(%1)").arg(n)); }
-    QWidget& ghost() { return element(QStringLiteral("DragGhost")); }
     QWidget& alert() { return element(QStringLiteral("ObjAlert")); }
     QString panel(int number) {
         return control<QLabel>(main(), QStringLiteral("StatusBar1(%1)").arg(number)).text();
     }
-    store::ObjectSlot& slot(int k) { return shell->scene().slot(k); }
-    canvas::Dragging& dragging() { return shell->actions().dragging(); }
+    /// The field for the number of a scene.
+    QLineEdit& number() { return control<QLineEdit>(main(), QStringLiteral("CurScene")); }
+    int current() { return shell->project().CurrentScene; }
+    void next() { button("Command6").click(); }
+    void previous() { button("Command5").click(); }
+    /// Adds a scene as the option of the window says: 0 empty, 1 a close-up, 2 a copy.
+    void addScene(int option) {
+        withWindow(
+            QStringLiteral("NewScenefrm"),
+            [this] { action(QStringLiteral("projmen(1)")).trigger(); },
+            [option](QWidget& window) {
+                control<QRadioButton>(window, QStringLiteral("Option1(%1)").arg(option)).click();
+                control<QPushButton>(window, QStringLiteral("Command3")).click();
+            });
+    }
 
     // The pointer, at points of the canvas.
-    void press(QPoint at, Qt::MouseButton button = Qt::LeftButton) {
-        QTest::mousePress(main().windowHandle(), button, {}, inWindow(at));
+    void press(QPoint at, Qt::MouseButton pressed = Qt::LeftButton) {
+        QTest::mousePress(main().windowHandle(), pressed, {}, inWindow(at));
         QCoreApplication::processEvents();
     }
     void moveTo(QPoint at) {
         QTest::mouseMove(main().windowHandle(), inWindow(at));
         QCoreApplication::processEvents();
     }
-    void release(QPoint at, Qt::MouseButton button = Qt::LeftButton) {
-        QTest::mouseRelease(main().windowHandle(), button, {}, inWindow(at));
+    void release(QPoint at, Qt::MouseButton released = Qt::LeftButton) {
+        QTest::mouseRelease(main().windowHandle(), released, {}, inWindow(at));
         QCoreApplication::processEvents();
     }
     /// Takes what lies at `from` and lets go of it at `to`.
@@ -86,9 +91,6 @@ class SceneFixture : public ShellFixture {
     std::string recordBytes(int scene) {
         return readBytes(files.storePath(1), recordAt(scene), sizeof(store::SceneRecord));
     }
-    void next() { control<QPushButton>(main(), QStringLiteral("Command6")).click(); }
-
-    TestProject files;
 
   private:
     QPoint inWindow(QPoint canvas) {

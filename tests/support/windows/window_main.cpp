@@ -4,6 +4,7 @@
 #include <QApplication>
 
 #include "forms/look.h"
+#include "support/windows/clean_desk.h"
 
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
@@ -14,5 +15,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     quorvel::forms::applyLook(application, quorvel::forms::lookFromEnvironment());
+    // GoogleTest owns its listeners.
+    ::testing::UnitTest::GetInstance()->listeners().Append(new quorvel::test::CleanDesk);
     return RUN_ALL_TESTS();
 }
