@@ -1,15 +1,14 @@
 #include "player/pointers.h"
 
 #include <algorithm>
-#include <array>
 
 #include <QFile>
 #include <QImage>
 #include <QImageReader>
-#include <QPainter>
-#include <QPainterPath>
 #include <QPixmap>
 
+#include "forms/pictures.h"
+#include "forms/stock_pointers.h"
 #include "resources/byte_source.h"
 #include "store/paths.h"
 
@@ -18,50 +17,30 @@ namespace {
 
 constexpr int kNormal = 13;
 constexpr int kPointers = 15;
-constexpr int kSide = 32;
 /// A pointer larger than that is a mistake, and no system shows it.
 constexpr int kLargestSide = 256;
 
-/// Degrees by which the arrow of pointers 1 to 8 is turned; it points to the right at 0.
-constexpr std::array kAngles = {270, 90, 180, 0, 225, 315, 135, 45};
-
-QCursor arrow(int angle) {
-    QPixmap pixmap(kSide, kSide);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(kSide / 2.0, kSide / 2.0);
-    painter.rotate(angle);
-    QPainterPath shape(QPointF(14, 0));
-    for (const QPointF point : {QPointF(2, -11), QPointF(2, -5), QPointF(-13, -5), QPointF(-13, 5),
-                                QPointF(2, 5), QPointF(2, 11)}) {
-        shape.lineTo(point);
-    }
-    shape.closeSubpath();
-    painter.setPen(QPen(QColor(20, 26, 34), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(QColor(250, 247, 236));
-    painter.drawPath(shape);
-    painter.end();
-    return QCursor(pixmap, kSide / 2, kSide / 2);
+/// The drawing that the editor shows for the pointer; it is pressed in its middle.
+QCursor drawn(int index) {
+    forms::PictureStore drawings;
+    const forms::PicturePtr drawing = drawings.stock(forms::stockPointer(index));
+    return QCursor(QPixmap::fromImage(drawing->firstFrame()), drawing->size().width() / 2,
+                   drawing->size().height() / 2);
 }
 
 QCursor builtIn(int index) {
-    if (index >= 1 && index <= static_cast<int>(kAngles.size())) {
-        return arrow(kAngles[static_cast<std::size_t>(index - 1)]);
-    }
+    constexpr int kWait = 14;
+    constexpr int kButtons = 15;
     switch (index) {
-        case 9:   // exit
-        case 10:  // hotspot
-        case 15:  // buttons
-            return Qt::PointingHandCursor;
-        case 11:  // goodie
-            return Qt::OpenHandCursor;
-        case 12:  // reactor
-            return Qt::WhatsThisCursor;
-        case 14:
-            return Qt::WaitCursor;
-        default:
+        // Those that every desktop has are its own.
+        case kNormal:
             return Qt::ArrowCursor;
+        case kWait:
+            return Qt::WaitCursor;
+        case kButtons:
+            return Qt::PointingHandCursor;
+        default:
+            return drawn(index);
     }
 }
 

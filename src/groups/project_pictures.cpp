@@ -1,19 +1,12 @@
 #include "groups/project_pictures.h"
 
-#include <array>
-
+#include "forms/stock_pointers.h"
 #include "store/game_stores.h"
 #include "store/paths.h"
 
 namespace quorvel::groups {
 namespace {
 
-/// The game's pointers in the order of its settings.
-constexpr std::array kPointers = {"pointer-up",        "pointer-down",       "pointer-left",
-                                  "pointer-right",     "pointer-up-left",    "pointer-up-right",
-                                  "pointer-down-left", "pointer-down-right", "pointer-exit",
-                                  "pointer-hotspot",   "pointer-goodie",     "pointer-reactor",
-                                  "pointer-normal"};
 constexpr int kNormal = 13;
 
 /// A file that cannot be read has no picture; the author is told when it is to be used.
@@ -74,7 +67,7 @@ forms::PicturePtr pointerPicture(const Tools& tools, int index) {
                                              : std::string();
     });
     const forms::PicturePtr picture = own.isEmpty() ? nullptr : gfxPicture(tools, own);
-    return picture != nullptr ? picture : tools.pictures.stock(QString::fromLatin1(kPointers[at]));
+    return picture != nullptr ? picture : tools.pictures.stock(forms::stockPointer(element));
 }
 
 }  // namespace quorvel::groups

@@ -4,6 +4,7 @@
 #include <QBuffer>
 #include <QPixmap>
 
+#include "forms/stock_pointers.h"
 #include "player/player_fixture.h"
 
 namespace quorvel::test {
@@ -53,7 +54,22 @@ TEST_F(Pointers, EachPlaceHasItsOwn) {
     EXPECT_EQ(sceneWindow().cursor().shape(), Qt::ArrowCursor);
     EXPECT_EQ(link(2).cursor().shape(), Qt::BitmapCursor) << "an arrow upwards";
     EXPECT_EQ(link(1).cursor().shape(), Qt::ArrowCursor) << "0 is the normal one";
-    EXPECT_EQ(area(1).cursor().shape(), Qt::PointingHandCursor);
+    EXPECT_EQ(area(1).cursor().shape(), Qt::BitmapCursor) << "the eye of a HotSpot";
+}
+
+TEST_F(Pointers, LookAsTheEditorShowsThem) {
+    build();
+    const player::Game game(folder.path());
+    player::Pointers pointers(game);
+    forms::PictureStore drawings;
+    for (int index = 1; index <= 12; ++index) {
+        const forms::PicturePtr drawing = drawings.stock(forms::stockPointer(index));
+        const QCursor& cursor = pointers.pointer(index);
+        EXPECT_EQ(cursor.pixmap().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied),
+                  drawing->firstFrame())
+            << index;
+        EXPECT_EQ(cursor.hotSpot(), QPoint(16, 16)) << "pressed in the middle, pointer " << index;
+    }
 }
 
 TEST_F(Pointers, FilesOfTheGameReplaceThem) {
