@@ -8,6 +8,9 @@ namespace {
 
 constexpr std::uintmax_t kLargestPlayer = std::uintmax_t{256} << 20;
 constexpr std::size_t kPiece = std::size_t{1} << 20;
+/// A player has one block, and perhaps the bytes that begin it once more. A file that is full of
+/// beginnings is there to keep its reader busy.
+constexpr int kMostBeginnings = 1000;
 
 std::optional<VersionInfo> readMarker(std::string_view bytes) {
     const BoundedBytes block(bytes);
@@ -31,9 +34,11 @@ std::optional<VersionInfo> readMarker(std::string_view bytes) {
     return info;
 }
 
-std::optional<VersionInfo> findIn(std::string_view bytes) {
-    for (std::size_t at = bytes.find(kMarkerBegin); at != std::string_view::npos;
+/// `beginnings` counts those that may still be looked at.
+std::optional<VersionInfo> findIn(std::string_view bytes, int& beginnings) {
+    for (std::size_t at = bytes.find(kMarkerBegin); at != std::string_view::npos && beginnings > 0;
          at = bytes.find(kMarkerBegin, at + 1)) {
+        --beginnings;
         if (bytes.size() - at < kMarkerLength) {
             return std::nullopt;
         }
@@ -50,13 +55,15 @@ std::optional<VersionInfo> findPlayerMarker(const ByteSource& source) {
     if (source.size() > kLargestPlayer) {
         return std::nullopt;
     }
+    int beginnings = kMostBeginnings;
     try {
         // The pieces overlap, so that a block across their border is whole in one of them.
-        for (std::uintmax_t at = 0; source.size() - at >= kMarkerLength; at += kPiece) {
+        for (std::uintmax_t at = 0; source.size() - at >= kMarkerLength && beginnings > 0;
+             at += kPiece) {
             const auto count =
                 std::min<std::uintmax_t>(source.size() - at, kPiece + kMarkerLength - 1);
             const std::string piece = source.read(at, static_cast<std::size_t>(count));
-            if (auto info = findIn(piece)) {
+            if (auto info = findIn(piece, beginnings)) {
                 return info;
             }
             if (source.size() - at <= kPiece) {

@@ -61,7 +61,7 @@ constexpr MarkerBytes makePlayerMarker(const FourPartVersion& version, const Mar
 }
 
 /// The block in the bytes of a file: the first whose checksum agrees. Files of more than 256
-/// megabytes are no player.
+/// megabytes are no player, nor are those with more than 1000 beginnings of a block before it.
 std::optional<VersionInfo> findPlayerMarker(const ByteSource& source);
 
 }  // namespace quorvel::resources

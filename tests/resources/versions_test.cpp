@@ -158,6 +158,16 @@ TEST_F(Versions, ADamagedBlockIsNone) {
         << "a block that is none does not hide the one behind it";
 }
 
+TEST_F(Versions, AFileFullOfBeginningsIsGivenUp) {
+    std::string beginnings;
+    for (int i = 0; i < 999; ++i) {
+        beginnings += resources::kMarkerBegin;
+    }
+    EXPECT_EQ(of(beginnings + marker({5, 5, 5, 5})).version, (FourPartVersion{5, 5, 5, 5}));
+    beginnings += resources::kMarkerBegin;
+    EXPECT_EQ(of(beginnings + marker({5, 5, 5, 5})), VersionInfo{});
+}
+
 TEST_F(Versions, ALongTextOfTheBlockIsCut) {
     const std::string text(100, 'x');
     EXPECT_EQ(of(marker({1, 2, 3, 4}, {text})).text("CompanyName").size(), 63);
