@@ -29,10 +29,13 @@ QString shownVersion(const VersionInfo& info) {
 }
 
 /// A project that came through an archive of another system has a player that nobody may run. Where
-/// that cannot be mended, the start fails and is told.
+/// that cannot be mended, the start fails and is told. A link may lead out of the project, where
+/// nothing is changed.
 void letItRun(const fs::path& player) {
     std::error_code ignored;
-    fs::permissions(player, fs::perms::owner_exec, fs::perm_options::add, ignored);
+    if (fs::is_regular_file(fs::symlink_status(player, ignored))) {
+        fs::permissions(player, fs::perms::owner_exec, fs::perm_options::add, ignored);
+    }
 }
 
 }  // namespace

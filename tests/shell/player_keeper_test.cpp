@@ -304,6 +304,30 @@ TEST_F(TestRun, APlayerThatNobodyMayRunIsMended) {
     EXPECT_EQ(programs.started.size(), 1);
 }
 
+TEST_F(TestRun, ALinkInThePlayersPlaceChangesNothingOutsideOfTheProject) {
+    begin();
+    const fs::path outside = install / "notes.txt";
+    writeBytes(outside, "somebody's");
+    fs::permissions(outside, fs::perms::owner_read | fs::perms::owner_write);
+    fs::remove(playerFile());
+    fs::create_symlink(outside, playerFile());
+    action(QStringLiteral("runmen(0)")).trigger();
+    EXPECT_EQ(fs::status(outside).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(readBytes(outside), "somebody's");
+}
+
+TEST_F(Players, ALinkInThePlayersPlaceIsReplacedNotFollowed) {
+    makeProject();
+    const fs::path outside = install / "old player";
+    writeBytes(outside, player({1, 0, 0, 0}));
+    fs::create_symlink(outside, playerFile());
+    EXPECT_TRUE(openIt());
+    EXPECT_EQ(titles(), QStringList{QStringLiteral("Player Upgraded")});
+    EXPECT_FALSE(fs::is_symlink(playerFile()));
+    EXPECT_EQ(readBytes(playerFile()), readBytes(masterPath()));
+    EXPECT_EQ(readBytes(outside), player({1, 0, 0, 0}));
+}
+
 TEST_F(TestRun, APlayerThatDoesNotStartIsTold) {
     begin();
     programs.succeed = false;
