@@ -41,7 +41,8 @@ QString messageText(const Game& game) {
 
 PlayerWindow::PlayerWindow(const std::filesystem::path& folder) : game_(folder), pointers_(game_) {
     setObjectName(QStringLiteral("PlayerWindow"));
-    setWindowTitle(game_.title().isEmpty() ? QStringLiteral("Quorvel Player") : game_.title());
+    const bool isNamed = game_.fault().isEmpty() && !game_.title().isEmpty();
+    setWindowTitle(isNamed ? game_.title() : QStringLiteral("Quorvel Player"));
     background_ = builtInBackground();
     for (const char* name : {"bggame.bmp", "bggame.jpg"}) {
         const auto file = store::findResource(folder, store::ResourceFolder::gfx, name);

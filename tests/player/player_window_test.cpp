@@ -210,7 +210,7 @@ TEST_F(PlayerWindow, AProjectThatIsMissingIsTold) {
     EXPECT_FALSE(sceneWindow().isVisible());
     EXPECT_THAT(message().toStdString(),
                 ::testing::HasSubstr("There is no game in the folder of this player."));
-    EXPECT_EQ(window->windowTitle(), QStringLiteral("Untitled"));
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("Quorvel Player"));
 }
 
 TEST_F(PlayerWindow, AStoreWithoutASceneIsTold) {
