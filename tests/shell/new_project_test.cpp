@@ -9,7 +9,9 @@
 #include <QTimer>
 
 #include "shell/new_project_stage.h"
+#include "store/objects.h"
 #include "store/security.h"
+#include "support/gif_bytes.h"
 
 namespace quorvel::test {
 namespace {
@@ -236,6 +238,29 @@ TEST_F(NewProject, TheOpenProjectIsClosedInOrderFirst) {
     EXPECT_EQ(control<QComboBox>(main(), QStringLiteral("Combo1")).count(), 2);
     EXPECT_EQ(boxes.texts(), QStringList());
     EXPECT_EQ(text(projects.path()), dialogs.asked.back().folder) << "beside the last project";
+}
+
+TEST_F(NewProject, NothingOfTheProjectBeforeIsLeftInIt) {
+    files = ProjectBuilder()
+                .version(301)
+                .scene(1, "Hall", "hall.bmp")
+                .gfx("hall.bmp", bmpBytes(700, 475, 0x2040C0))
+                .object(1, 3, 5, 10, 10)
+                .build(projects.makeFolder("old"));
+    begin();
+    boxes.answer(forms::Answer::yes);
+    EXPECT_TRUE(shell->openProject(text(files.projectPath())));
+    boxes.forget();
+    action(QStringLiteral("Toolbar1(7)")).trigger();
+    create(projects.makeFolder("new"));
+    EXPECT_EQ(shell->scene().header(store::HeaderString::SceneImage), "");
+    EXPECT_EQ(store::number(shell->scene().slot(3), store::kType), -1) << "a free slot";
+    const QImage canvas = element(QStringLiteral("Image1")).grab().toImage();
+    EXPECT_NE(canvas.pixelColor(350, 240), QColor(0x2040C0)) << "the old picture is gone";
+    EXPECT_FALSE(action(QStringLiteral("Toolbar1(7)")).isChecked()) << "its borders are off";
+    EXPECT_TRUE(shell->CloseProject());
+    EXPECT_EQ(readInt(projects / "new/Project.qvl", 310), 300) << "ProjectVersion, not the old 301";
+    EXPECT_EQ(boxes.texts(), QStringList());
 }
 
 TEST_F(NewProject, TheCodeIsWithinItsRange) {
