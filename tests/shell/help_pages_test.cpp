@@ -2,19 +2,26 @@
 // leads nowhere, and the search finds what an author asks for.
 #include "shell/help_pages.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <set>
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QGroupBox>
 #include <QImage>
+#include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTextBrowser>
 #include <QTimer>
 
+#include "forms/file_choice.h"
+#include "forms/file_dialogs.h"
 #include "support/windows/shell_fixture.h"
 
 namespace quorvel::test {
@@ -239,6 +246,72 @@ TEST_F(HelpButtons, NoneLeadsNowhere) {
         });
     }
     EXPECT_TRUE(boxes.shown().empty()) << boxes.texts().join(QLatin1Char('|')).toStdString();
+}
+
+// The first steps
+
+/// A text as the eye sees it.
+QString seen(QString caption) {
+    caption.replace(QStringLiteral("&&"), QStringLiteral("\n"));
+    caption.remove(QLatin1Char('&'));
+    caption.replace(QLatin1Char('\n'), QLatin1Char('&'));
+    return caption.simplified();
+}
+
+/// All that can be read on `window` and its menus.
+QStringList captionsOf(const QWidget& window) {
+    QStringList all{window.windowTitle()};
+    for (const auto* button : window.findChildren<QAbstractButton*>()) {
+        all << seen(button->text());
+    }
+    for (const auto* label : window.findChildren<QLabel*>()) {
+        all << seen(label->text());
+    }
+    for (const auto* frame : window.findChildren<QGroupBox*>()) {
+        all << seen(frame->title());
+    }
+    for (const auto* entry : window.findChildren<QAction*>()) {
+        all << seen(entry->text()) << seen(entry->toolTip());
+    }
+    return all;
+}
+
+/// What a page tells the reader to look for: its bold texts, and the entries of a menu one by one.
+QStringList toBeFound(const QString& text, const char* pattern) {
+    QStringList all;
+    for (const QString& bold : caught(text, pattern)) {
+        all << bold.split(QStringLiteral(", "));
+    }
+    all.replaceInStrings(QStringLiteral("&lt;"), QStringLiteral("<"));
+    all.replaceInStrings(QStringLiteral("&gt;"), QStringLiteral(">"));
+    return all;
+}
+
+TEST_F(HelpButtons, WhatTheFirstStepsNameCanBeFound) {
+    const TestProject game = ProjectBuilder().scenes(2).build(projects.makeFolder("game"));
+    start({text(game.projectPath())});
+    QStringList captions =
+        captionsOf(main()) + captionsOf(shell->actions().popups()) +
+        forms::toolkitFilter(forms::filters::kBackgrounds).split(QStringLiteral(";;"));
+    for (const WindowWithHelp& one : windowsWithHelp()) {
+        showWindow(one, [&](QWidget& window) {
+            captions += captionsOf(window);
+            window.close();
+        });
+    }
+    const QString readMe = read(pagesOfTheSource().filePath(QStringLiteral("../README.md")));
+    const QString steps = readMe.section(QStringLiteral("## Your first game"), 1, 1)
+                              .section(QStringLiteral("\n## "), 0, 0);
+    const QStringList named =
+        toBeFound(read(pagesOfTheSource().filePath(QStringLiteral("index.html"))), "<b>(.*?)</b>") +
+        toBeFound(steps, "\\*\\*(.*?)\\*\\*");
+    EXPECT_GT(named.size(), 40);
+    for (const QString& name : named) {
+        const bool found = std::ranges::any_of(captions, [&name](const QString& caption) {
+            return caption == name || caption.startsWith(name + QLatin1Char(' '));
+        });
+        EXPECT_TRUE(found) << name.toStdString();
+    }
 }
 
 TEST_F(HelpButtons, EveryWindowOfTheMenusIsLookedAt) {
