@@ -1,5 +1,6 @@
 // The texts that each new project gets for those who will play its game.
 #include <gtest/gtest.h>
+#include <utility>
 
 #include "store/text_codec.h"
 #include "support/file_bytes.h"
@@ -36,6 +37,18 @@ TEST_P(DeliveredTexts, PromiseNothingThatThisPlayerCannotDo) {
     for (const char* word : {"inventory", "carry", "item", "sound", "speaker", "music", "movie",
                              "talk", "save", "load", "menu", "travel"}) {
         EXPECT_EQ(bytes.find(word), std::string::npos) << word;
+    }
+}
+
+TEST(DeliveredReadMe, NamesTheLibrariesThatThePlayerNeeds) {
+    const std::filesystem::path player = QUORVEL_PLAYER;
+    const std::string text = readBytes(player.parent_path() / "ReadMe.txt");
+    const std::string program = readBytes(player);
+    for (const auto& [file, name] : {std::pair("libQt6Widgets.so.6", "Qt 6"),
+                                     std::pair("libgstreamer-1.0.so.0", "GStreamer")}) {
+        if (program.find(file) != std::string::npos) {
+            EXPECT_NE(text.find(name), std::string::npos) << name;
+        }
     }
 }
 
