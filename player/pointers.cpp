@@ -4,7 +4,6 @@
 
 #include <QFile>
 #include <QImage>
-#include <QImageReader>
 #include <QPixmap>
 
 #include "forms/pictures.h"
@@ -60,17 +59,13 @@ QPoint hotSpotOf(const QByteArray& bytes) {
 }  // namespace
 
 QCursor pointerFromFile(const std::filesystem::path& file) {
-    const QString path = QString::fromStdString(store::textOf(file));
-    QImageReader reader(path);
-    const QSize size = reader.size();
-    if (size.width() > kLargestSide || size.height() > kLargestSide) {
+    forms::PictureStore pictures;
+    const forms::PicturePtr picture = pictures.load(file);
+    const QImage& image = picture->firstFrame();
+    if (!picture->ok() || image.width() > kLargestSide || image.height() > kLargestSide) {
         return Qt::ArrowCursor;
     }
-    const QImage image = reader.read();
-    if (image.isNull() || image.width() > kLargestSide || image.height() > kLargestSide) {
-        return Qt::ArrowCursor;
-    }
-    QFile bytes(path);
+    QFile bytes(QString::fromStdString(store::textOf(file)));
     constexpr qint64 kHeader = 22;  // of the file and of its first picture
     const QPoint at =
         bytes.open(QIODevice::ReadOnly) ? hotSpotOf(bytes.read(kHeader)) : QPoint(0, 0);

@@ -100,6 +100,20 @@ TEST_F(Pointers, AMissingOrDamagedFileIsNoReasonToStop) {
     }
 }
 
+TEST_F(Pointers, ADrawingOrAnEnormousPictureIsNone) {
+    // Drawings can name other files, which a game has no business with.
+    writeBytes(folder / "drawing.cur",
+               "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"32\" height=\"32\">"
+               "<rect width=\"32\" height=\"32\" fill=\"red\"/></svg>");
+    std::filesystem::copy_file(folder / "drawing.cur", folder / "drawing.svg");
+    writeBytes(folder / "large.cur", bmpBytes(257, 20, 0xFF0000));
+    for (const char* name : {"drawing.cur", "drawing.svg", "large.cur"}) {
+        EXPECT_EQ(player::pointerFromFile(folder / name).shape(), Qt::ArrowCursor) << name;
+    }
+    writeBytes(folder / "fits.cur", bmpBytes(256, 20, 0xFF0000));
+    EXPECT_TRUE(isRed(player::pointerFromFile(folder / "fits.cur")));
+}
+
 TEST_F(Pointers, AHotSpotBeyondThePictureIsItsLastPixel) {
     writeBytes(folder / "odd.cur", iconBytes(2, 100, 100));
     EXPECT_EQ(player::pointerFromFile(folder / "odd.cur").hotSpot(), QPoint(31, 31));
