@@ -9,7 +9,6 @@
 #include "shell/path_text.h"
 #include "store/creation.h"
 #include "store/paths.h"
-#include "store/runtime_error.h"
 #include "store/security.h"
 
 namespace quorvel::shell {
@@ -58,15 +57,7 @@ bool ProjectCreator::CreateProject(const QString& folder, const QString& name) {
         return true;
     } catch (const RuntimeError& error) {
         if (!told_) {
-            house_.boxes.show(
-                {.text = QStringLiteral("The new project could not be created.\n\nStep: %1\n%2\n\n"
-                                        "Error %3 (%4)\n\nWhat was made before remains in the "
-                                        "folder.")
-                             .arg(step_, QString::fromStdString(store::textOf(error.file())),
-                                  QString::number(error.number()),
-                                  QString::fromStdString(error.description())),
-                 .title = QStringLiteral("New Project"),
-                 .icon = Box::Icon::exclamation});
+            tell(error);
         }
     }
     try {
@@ -75,6 +66,27 @@ bool ProjectCreator::CreateProject(const QString& folder, const QString& name) {
         // The first failure has been told, and there is nothing in these files to lose.
     }
     return false;
+}
+
+void ProjectCreator::tell(const RuntimeError& error) {
+    // The system's words for a folder that is not empty do not say so.
+    std::error_code ignored;
+    const bool isInTheWay =
+        (error.code() == ErrorNumber::accessError || error.code() == ErrorNumber::fileExists) &&
+        store::textOf(error.file()).starts_with(house_.project.ProjectFolder) &&
+        fs::exists(fs::symlink_status(error.file(), ignored));
+    const QString hint =
+        isInTheWay
+            ? QStringLiteral("\nIt is in the folder already.  Please choose an empty folder.")
+            : QString();
+    house_.boxes.show(
+        {.text = QStringLiteral("The new project could not be created.\n\nStep: %1\n%2\n\n"
+                                "Error %3 (%4)%5\n\nWhat was made before remains in the folder.")
+                     .arg(step_, QString::fromStdString(store::textOf(error.file())),
+                          QString::number(error.number()),
+                          QString::fromStdString(error.description()), hint),
+         .title = QStringLiteral("New Project"),
+         .icon = Box::Icon::exclamation});
 }
 
 /// The name must be a file of that folder, and not that of a project which lies there already.

@@ -10,6 +10,7 @@
 #include "forms/boxes.h"
 #include "shell/project_loader.h"
 #include "store/project.h"
+#include "store/runtime_error.h"
 
 namespace quorvel::shell {
 
@@ -37,6 +38,7 @@ class ProjectCreator {
     void copyDelivered();
     void makeFiles();
     void open();
+    void tell(const store::RuntimeError& error);
 
     House house_;
     QString step_;  // what is being done, for the author

@@ -27,8 +27,9 @@ TEST_F(NewProjectFailures, AFolderOfTheProjectInAnyLetterCaseIsInTheWay) {
         EXPECT_EQ(differences(before, snapshotOf(folder)), "") << "nothing is written";
         EXPECT_EQ(step(),
                   QStringLiteral("The new project could not be created.\n\nStep: Making the "
-                                 "folders\n%1\n\nError 75 (Path/File access error)\n\nWhat "
-                                 "was made before remains in the folder.")
+                                 "folders\n%1\n\nError 75 (Path/File access error)\nIt is in the "
+                                 "folder already.  Please choose an empty folder.\n\nWhat was made "
+                                 "before remains in the folder.")
                       .arg(text(folder / name)));
         boxes.forget();
     }
@@ -49,6 +50,15 @@ TEST_F(NewProjectFailures, AMissingPlayerIsNamed) {
     fs::remove(install / "QuorvelDefaults/Game.exe");
     createInVain(projects.path());
     EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Step: Copying 'Game.exe'\n"));
+}
+
+TEST_F(NewProjectFailures, AnEmptyFolderIsAskedForOnlyWhereItHelps) {
+    begin();
+    fs::remove(install / "QuorvelDefaults/Game.exe");
+    fs::create_directory(install / "QuorvelDefaults/Game.exe");
+    createInVain(projects.path());
+    EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Error 75 "));
+    EXPECT_THAT(step().toStdString(), ::testing::Not(::testing::HasSubstr("already")));
 }
 
 TEST_F(NewProjectFailures, AFullDiskIsToldAndTheNextTrySucceeds) {
@@ -77,6 +87,7 @@ TEST_F(NewProjectFailures, AFolderWithoutTheRightToWriteIsTold) {
     createInVain(projects.path());
     EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Step: Making the folders\n"));
     EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Error 75 "));
+    EXPECT_THAT(step().toStdString(), ::testing::Not(::testing::HasSubstr("already")));
 }
 
 TEST_F(NewProjectFailures, AFolderThatIsGoneIsTold) {
@@ -102,7 +113,9 @@ TEST_F(NewProjectFailures, AProjectFileThatLiesThereIsKept) {
     begin();
     writeBytes(projects / "PROJECT.QVL", "somebody's project");
     createInVain(projects.path());
-    EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Error 58 (File already exists)"));
+    EXPECT_THAT(
+        step().toStdString(),
+        ::testing::HasSubstr("Error 58 (File already exists)\nIt is in the folder already."));
     EXPECT_EQ(readBytes(projects / "PROJECT.QVL"), "somebody's project");
     boxes.forget();
     create(projects.path(), "Another");
