@@ -19,12 +19,16 @@ constexpr int kPointers = 15;
 /// A pointer larger than that is a mistake, and no system shows it.
 constexpr int kLargestSide = 256;
 
-/// The drawing that the editor shows for the pointer; it is pressed in its middle.
+/// The drawing that the editor shows for the pointer; it is pressed in its middle. It has the
+/// pixels that a pointer file would have, at every scale: not all desktops scale the place that is
+/// pressed.
 QCursor drawn(int index) {
     forms::PictureStore drawings;
     const forms::PicturePtr drawing = drawings.stock(forms::stockPointer(index));
-    return QCursor(QPixmap::fromImage(drawing->firstFrame()), drawing->size().width() / 2,
-                   drawing->size().height() / 2);
+    QImage image = drawing->firstFrame().scaled(drawing->size(), Qt::IgnoreAspectRatio,
+                                                Qt::SmoothTransformation);
+    image.setDevicePixelRatio(1);
+    return QCursor(QPixmap::fromImage(image), image.width() / 2, image.height() / 2);
 }
 
 QCursor builtIn(int index) {
