@@ -1,6 +1,8 @@
 // The player of a project: looked after when the project opens, started for a test run.
 #include <gmock/gmock.h>
 
+#include <QProcess>
+
 #include "resources/player_marker.h"
 #include "shell/scene_fixture.h"
 #include "support/mounts.h"
@@ -342,6 +344,21 @@ TEST_F(TestRun, AWindowsPlayerIsStartedThroughWine) {
     action(QStringLiteral("runmen(0)")).trigger();
     EXPECT_EQ(programs.started, QStringList{QStringLiteral("/usr/bin/wine|") + text(playerFile())});
     EXPECT_EQ(boxes.texts(), QStringList());
+}
+
+TEST_F(Players, AnOldPlayerThatRunsIsReplacedAndGoesOn) {
+    makeProject();
+    writeBytes(playerFile(), readBytes("/bin/sleep") + player({1, 0, 0, 0}));
+    fs::permissions(playerFile(), fs::perms::owner_all);
+    QProcess running;
+    running.start(text(playerFile()), {QStringLiteral("60")});
+    ASSERT_TRUE(running.waitForStarted());
+    EXPECT_TRUE(openIt());
+    EXPECT_EQ(titles(), QStringList{QStringLiteral("Player Upgraded")});
+    EXPECT_EQ(readBytes(playerFile()), readBytes(masterPath()));
+    EXPECT_EQ(running.state(), QProcess::Running);
+    running.kill();
+    running.waitForFinished();
 }
 
 /// What `PATH` is while it lives.
