@@ -47,7 +47,15 @@ class NewcomerRoad : public EditorAuthor {
         writeBytes(pictures / file, bmpBytes(700, 475, colour));
         editScene([&](const Hand& hand) {
             dialogs.choice = text(pictures / file);
-            hand.click("Command3");
+            bool isAsked = false;
+            withWindow(
+                QStringLiteral("PickCM"), [&] { hand.click("Command3"); },
+                [&](QWidget& window) {
+                    isAsked = true;
+                    Hand(window).click("Command1(0)");
+                });
+            EXPECT_TRUE(isAsked) << "copy or move";
+            EXPECT_TRUE(fs::exists(pictures / file)) << "copied";
             hand.click("Command4");
         });
     }
@@ -121,7 +129,7 @@ TEST_F(NewcomerRoad, FromNothingToAGameThatRuns) {
     playOn(screen);
     start();
 
-    shell->settings().WrongFolder = 1;  // copy what lies elsewhere
+    shell->settings().WrongFolder = 3;  // asks, as it does at first
 
     makeProject("First");
     ASSERT_TRUE(shell->project().ProjectOpen);
@@ -176,7 +184,7 @@ TEST_F(NewcomerRoad, ARepeatedTestRunShowsWhatWasChanged) {
     }
     playOn(screen);
     start();
-    shell->settings().WrongFolder = 1;  // copy what lies elsewhere
+    shell->settings().WrongFolder = 3;  // asks, as it does at first
     makeProject("Again");
     setPicture("red.bmp", kRed);
     action(QStringLiteral("Toolbar1(25)")).trigger();
