@@ -28,7 +28,8 @@ class Preview : public QObject {
     virtual void StopWav(int channel) = 0;
     virtual void StopAllWavs() = 0;
 
-    virtual void PlayMidi(const QString& name) = 0;
+    virtual void PlayMidi(const QString& name, int volume) = 0;
+    virtual void SetMidiVolume(int volume) = 0;
     virtual void StopMidi() = 0;
 
     virtual void PlayMp3(const QString& name, int volume, int pan) = 0;

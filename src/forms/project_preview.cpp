@@ -61,8 +61,12 @@ void ProjectPreview::StopAllWavs() {
     engine_.StopAllWavs();
 }
 
-void ProjectPreview::PlayMidi(const QString& name) {
-    engine_.PlayMidi(fileOf(name));
+void ProjectPreview::PlayMidi(const QString& name, int volume) {
+    engine_.PlayMidi(fileOf(name), soundVolume(volume));
+}
+
+void ProjectPreview::SetMidiVolume(int volume) {
+    engine_.SetMidiVolume(soundVolume(volume));
 }
 
 void ProjectPreview::StopMidi() {

@@ -24,7 +24,8 @@ class ProjectPreview : public Preview {
     void SetWavPan(int channel, int pan) override;
     void StopWav(int channel) override;
     void StopAllWavs() override;
-    void PlayMidi(const QString& name) override;
+    void PlayMidi(const QString& name, int volume) override;
+    void SetMidiVolume(int volume) override;
     void StopMidi() override;
     void PlayMp3(const QString& name, int volume, int pan) override;
     void SetMp3Volume(int volume) override;

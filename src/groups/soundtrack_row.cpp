@@ -47,6 +47,8 @@ SoundtrackRow::SoundtrackRow(Sheet& sheet, const Names& names, QWidget* parent)
             sheet_.tools().preview.SetMp3Volume(value);
         } else if (kind() == Kind::wav) {
             sheet_.tools().preview.SetWavVolume(kChannel, value);
+        } else if (kind() == Kind::midi) {
+            sheet_.tools().preview.SetMidiVolume(value);
         }
     });
     const forms::Preview& preview = sheet.tools().preview;
@@ -114,7 +116,7 @@ void SoundtrackRow::play() {
             preview.PlayWav(file->text(), volume->value(), 0, kChannel);
             break;
         case Kind::midi:
-            preview.PlayMidi(file->text());
+            preview.PlayMidi(file->text(), volume->value());
             break;
         case Kind::none:
             return;

@@ -150,8 +150,12 @@ bool PreviewEngine::isWavPlaying(int channel) const {
 // -- MIDI
 // ------------------------------------------------------------------------------------------
 
-void PreviewEngine::PlayMidi(const std::filesystem::path& file) {
-    play(midiSlot, {.file = file});
+void PreviewEngine::PlayMidi(const std::filesystem::path& file, int volume) {
+    play(midiSlot, {.file = file, .amplitude = amplitude(volume)});
+}
+
+void PreviewEngine::SetMidiVolume(int volume) {
+    setAmplitude(midiSlot, amplitude(volume));
 }
 
 void PreviewEngine::StopMidi() {

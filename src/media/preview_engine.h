@@ -72,7 +72,8 @@ class PreviewEngine : public QObject {
     void StopAllWavs();
     [[nodiscard]] bool isWavPlaying(int channel) const;
 
-    void PlayMidi(const std::filesystem::path& file);
+    void PlayMidi(const std::filesystem::path& file, int volume = 0);
+    void SetMidiVolume(int volume);
     void StopMidi();
     [[nodiscard]] bool isMidiPlaying() const;
 

@@ -160,6 +160,33 @@ TEST_F(Midi, SoundsWithTheSoundFontAndEnds) {
     EXPECT_GT(levels(capture.take(0).samples, kSecond / 5, 4 * kSecond / 5).left, -45.0);
 }
 
+TEST_F(Midi, ItsVolumeIsThatOfSounds) {
+    begin();
+    const auto tune = file("a.mid", midiBytes(1000));
+    std::size_t number = 0;
+    for (const int volume : {0, -600}) {
+        engine->PlayMidi(tune, volume);
+        ASSERT_TRUE(waitForEnds(++number));
+    }
+    const auto loudness = [this](std::size_t take) {
+        return levels(capture.take(take).samples, kSecond / 5, 4 * kSecond / 5).left;
+    };
+    EXPECT_NEAR(loudness(1), loudness(0) - 6.0, 0.1);
+}
+
+TEST_F(Midi, FollowsItsVolumeWhileItPlays) {
+    begin(Device::realTime);
+    engine->PlayMidi(file("a.mid", midiBytes(5000)));
+    ASSERT_TRUE(capture.waitForFrames(0, kSecond / 2));
+    engine->SetMidiVolume(-4000);
+    const std::size_t from = capture.frames(0);
+    ASSERT_TRUE(capture.waitForFrames(0, from + kSecond / 3));
+    const auto samples = capture.take(0).samples;
+    const Levels before = levels(samples, from - kSecond / 5, from);
+    const Levels after = levels(samples, from + kSecond / 10, from + kSecond / 3);
+    EXPECT_LT(after.left, before.left - 30.0);
+}
+
 TEST_F(Midi, ASecondReplacesTheFirst) {
     begin(Device::realTime);
     engine->PlayMidi(file("a.mid", midiBytes(5000)));

@@ -157,8 +157,11 @@ TEST_F(SceneMedia, MusicIsHeardByItsKindAndFollowsItsVolume) {
         heard();
         choose("jig.mid");
         EXPECT_EQ(hand.button("PlayMidfile").text(), QStringLiteral(">"));
+        hand.slider("Hscroll1(0)").setValue(-300);
+        EXPECT_EQ(heard(), QStringList()) << "nothing plays";
         hand.click("PlayMidfile");
-        EXPECT_EQ(heard(), orders({"PlayMidi jig.mid"}));
+        hand.slider("Hscroll1(0)").setValue(-400);
+        EXPECT_EQ(heard(), orders({"PlayMidi jig.mid -300", "SetMidiVolume -400"}));
         Q_EMIT preview->midiEnded();
         EXPECT_EQ(hand.button("PlayMidfile").text(), QStringLiteral(">"));
     });

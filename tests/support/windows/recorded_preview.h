@@ -27,7 +27,12 @@ class RecordedPreview : public forms::Preview {
     }
     void StopWav(int channel) override { note(QStringLiteral("StopWav %1").arg(channel)); }
     void StopAllWavs() override { note(QStringLiteral("StopAllWavs")); }
-    void PlayMidi(const QString& name) override { note(QStringLiteral("PlayMidi ") + name); }
+    void PlayMidi(const QString& name, int volume) override {
+        note(QStringLiteral("PlayMidi %1 %2").arg(name).arg(volume));
+    }
+    void SetMidiVolume(int volume) override {
+        note(QStringLiteral("SetMidiVolume %1").arg(volume));
+    }
     void StopMidi() override { note(QStringLiteral("StopMidi")); }
     void PlayMp3(const QString& name, int volume, int pan) override {
         note(QStringLiteral("PlayMp3 %1 %2 %3").arg(name).arg(volume).arg(pan));
