@@ -17,6 +17,8 @@ struct LevelRange {
 inline constexpr LevelRange kWavVolume{-4000, 0, 160, "-4000 to 0 (Full Volume)"};
 inline constexpr LevelRange kMovieVolume{0, 100, 5, "0 to 100 (Full Volume)"};
 inline constexpr LevelRange kPan{-4000, 4000, 160, "-4000 to 4000"};
+/// Of a sound whose file has been taken away: both of its sliders end at 0 then.
+inline constexpr LevelRange kIdlePan{-4000, 0, 160, "-4000 to 4000"};
 
 /// The box is what counts. It shows where the slider stands, but for a value that was stored
 /// outside the range, as damaged records hold: the box shows that as it is and the slider stands at

@@ -30,6 +30,7 @@ SoundSpec::SoundSpec(Sheet& sheet, const Names& names, QWidget* parent)
         fill(made.column);
     }
     followFile();
+    pan->setRange(kPan);  // no file has been taken away yet
     followAuthor();
 }
 
@@ -120,6 +121,9 @@ void SoundSpec::followFile() {
     if (!any) {
         volume->setValue(0);
         pan->setValue(0);
+        pan->setRange(kIdlePan);
+    } else if (pan->slider()->maximum() < kPan.highest) {
+        pan->setRange(kPan);
     }
     volume->slider()->setEnabled(any);
     pan->slider()->setEnabled(wav);

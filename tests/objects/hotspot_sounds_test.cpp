@@ -94,6 +94,13 @@ TEST_F(HotSpotSounds, ADoubleClickTakesTheFileAway) {
              {"Playwav(1)", "Hscroll1(1)", "Hscroll2(1)", "HLeft(1)", "sChannelNum(1)"}) {
             EXPECT_FALSE(hand.get<QWidget>(control).isEnabled()) << control;
         }
+        for (const char* slider : {"Hscroll1(1)", "Hscroll2(1)"}) {
+            EXPECT_EQ(hand.slider(slider).minimum(), -4000) << slider;
+            EXPECT_EQ(hand.slider(slider).maximum(), 0) << slider;
+            EXPECT_EQ(hand.slider(slider).value(), 0) << slider;
+        }
+        EXPECT_EQ(hand.box("SV(1)").toolTip(), QStringLiteral("-4000 to 0 (Full Volume)"));
+        EXPECT_EQ(hand.box("SP(1)").toolTip(), QStringLiteral("-4000 to 4000"));
         EXPECT_EQ(hand.button("Playwav(1)").text(), QStringLiteral(">"));
         EXPECT_TRUE(hand.button("Command1").isEnabled());
         hand.click("Command6");

@@ -82,6 +82,23 @@ TEST_F(Levels, TakingTheFileAwayStoresZero) {
     EXPECT_EQ(pan(), 0);
 }
 
+TEST_F(Levels, AnotherFileGivesThePanBothOfItsSidesBack) {
+    putSound("", 0, 2500);
+    edit([this](const Hand& hand) {
+        QSlider& pan = hand.slider("Hscroll2(1)");
+        EXPECT_EQ(pan.maximum(), 4000);
+        choose(hand, "LSE(1)", "a.wav");
+        EXPECT_EQ(pan.value(), 2500) << "as it is stored";
+        hand.doubleClick("SE(1)");
+        EXPECT_EQ(pan.maximum(), 0);
+        choose(hand, "LSE(1)", "a.wav");
+        EXPECT_EQ(pan.maximum(), 4000);
+        EXPECT_EQ(hand.text("SP(1)"), QStringLiteral("0"));
+        hand.click("HRight(1)");
+    });
+    EXPECT_EQ(pan(), 4000);
+}
+
 TEST_F(Levels, AnotherKindOfFileBringsTheVolumeIntoItsRange) {
     // The volume of a movie, beside a WAV.
     putSound("film.avi", 60);
