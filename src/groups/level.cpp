@@ -1,6 +1,8 @@
 #include "groups/level.h"
 
 #include <QSignalBlocker>
+#include <QStyleOptionSlider>
+#include <QStylePainter>
 #include <QWheelEvent>
 
 #include "store/numbers.h"
@@ -8,12 +10,33 @@
 namespace quorvel::groups {
 namespace {
 
-/// Left alone by a wheel that is turned over it in passing.
+/// Left alone by a wheel that is turned over it in passing. One that goes to both sides of 0 shows
+/// no amount: its groove is the same on both sides.
 class CalmSlider : public QSlider {
   public:
-    using QSlider::QSlider;
+    CalmSlider(bool bothSides, QWidget* parent)
+        : QSlider(Qt::Horizontal, parent), bothSides_(bothSides) {}
 
   protected:
+    void paintEvent(QPaintEvent* event) override {
+        if (!bothSides_) {
+            QSlider::paintEvent(event);
+            return;
+        }
+        QStylePainter painter(this);
+        QStyleOptionSlider option;
+        initStyleOption(&option);
+        QStyleOptionSlider groove = option;
+        groove.subControls = QStyle::SC_SliderGroove;
+        groove.sliderPosition = groove.sliderValue = minimum();  // styles fill what is before it
+        painter.drawComplexControl(QStyle::CC_Slider, groove);
+        option.subControls = QStyle::SC_SliderHandle;
+        if (isSliderDown()) {
+            option.activeSubControls = QStyle::SC_SliderHandle;
+            option.state |= QStyle::State_Sunken;
+        }
+        painter.drawComplexControl(QStyle::CC_Slider, option);
+    }
     void wheelEvent(QWheelEvent* event) override {
         if (hasFocus()) {
             QSlider::wheelEvent(event);
@@ -21,6 +44,9 @@ class CalmSlider : public QSlider {
             event->ignore();
         }
     }
+
+  private:
+    bool bothSides_;
 };
 
 }  // namespace
@@ -28,7 +54,7 @@ class CalmSlider : public QSlider {
 Level::Level(const QString& slider, const QString& box, const QString& spoken,
              const LevelRange& range, QWidget* parent)
     : QObject(parent),
-      slider_(new CalmSlider(Qt::Horizontal, parent)),
+      slider_(new CalmSlider(range.lowest < 0 && range.highest > 0, parent)),
       box_(new QLineEdit(parent)) {
     slider_->setObjectName(slider);
     slider_->setAccessibleName(spoken);

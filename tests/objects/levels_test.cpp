@@ -82,6 +82,22 @@ TEST_F(Levels, TakingTheFileAwayStoresZero) {
     EXPECT_EQ(pan(), 0);
 }
 
+TEST_F(Levels, AVolumeShowsHowMuchItIsAndAPanHasTwoSidesAlike) {
+    putSound("a.wav", -2000);
+    edit([](const Hand& hand) {
+        const auto sidesAlike = [&hand](const char* name) {
+            QSlider& slider = hand.slider(name);
+            const QImage seen = slider.grab().toImage();
+            const auto at = [&seen](int eighths) {
+                return seen.pixel(seen.width() * eighths / 8, seen.height() / 2);
+            };
+            return at(2) == at(6);
+        };
+        EXPECT_TRUE(sidesAlike("Hscroll2(1)"));
+        EXPECT_FALSE(sidesAlike("Hscroll1(1)"));
+    });
+}
+
 TEST_F(Levels, AnotherFileGivesThePanBothOfItsSidesBack) {
     putSound("", 0, 2500);
     edit([this](const Hand& hand) {
