@@ -147,6 +147,18 @@ void Sheet::bind(const NumberRef& field, Level* level) {
                           .value = [level]() -> std::optional<int> { return level->value(); }}));
 }
 
+void Sheet::bindSlider(const NumberRef& field, Level* level) {
+    bind(std::make_unique<NumberBinding>(
+        field,
+        NumberFace{.control = level->slider(),
+                   .show = [level](int value) { level->setValue(value); },
+                   .value = [level]() -> std::optional<int> { return level->slider()->value(); },
+                   .reading =
+                       [slider = level->slider()](int stored) {
+                           return std::clamp(stored, slider->minimum(), slider->maximum());
+                       }}));
+}
+
 void Sheet::bindMovieVolume(const NumberRef& field, Level* level) {
     bind(std::make_unique<NumberBinding>(
         field, NumberFace{.control = level->slider(),

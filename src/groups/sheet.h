@@ -79,6 +79,8 @@ class Sheet : public QObject {
     void bind(const NumberRef& field, NumberBox* box);
     void bind(const NumberRef& field, OptionGroup* options);
     void bind(const NumberRef& field, Level* level);
+    /// Of a level whose slider is stored, not its box: a value outside the range is the nearest.
+    void bindSlider(const NumberRef& field, Level* level);
     /// A stored volume above 100 counts as 100, and is put to that at once.
     void bindMovieVolume(const NumberRef& field, Level* level);
     void bind(const NumberRef& field, RecordList* list);

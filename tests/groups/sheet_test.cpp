@@ -28,6 +28,30 @@ class Sheets : public ToolsFixture {
     int touches = 0;
 };
 
+TEST_F(Sheets, ALevelIsStoredByItsBoxOrByItsSlider) {
+    std::array<std::int16_t, 4> numbers = {500, 500, -300, -300};
+    std::vector<std::unique_ptr<Level>> levels;
+    for (std::int16_t& number : numbers) {
+        levels.push_back(std::make_unique<Level>(QStringLiteral("s"), QStringLiteral("b"),
+                                                 QString(), kWavVolume, &window));
+        if (levels.size() % 2 == 1) {
+            sheet->bind(number, levels.back().get());
+        } else {
+            sheet->bindSlider(number, levels.back().get());
+        }
+    }
+    sheet->load();
+    EXPECT_EQ(levels[0]->box()->text(), QStringLiteral("500")) << "the box is what counts";
+    EXPECT_EQ(levels[1]->box()->text(), QStringLiteral("0")) << "the box follows the slider";
+    EXPECT_EQ(touches, 0);
+    sheet->store();
+    EXPECT_EQ(numbers, (std::array<std::int16_t, 4>{500, 0, -300, -300}));
+    levels[1]->setValue(-10);
+    levels[3]->setValue(-20);
+    sheet->store();
+    EXPECT_EQ(numbers, (std::array<std::int16_t, 4>{500, -10, -300, -20}));
+}
+
 TEST_F(Sheets, EachKindOfControlCarriesItsNumberBothWays) {
     records.scenes = {{1, "One"}, {2, "Two"}};
     lists.refresh();
