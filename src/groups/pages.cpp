@@ -1,8 +1,23 @@
 #include "groups/pages.h"
 
+#include <QShortcut>
+
 #include "forms/form.h"
 
 namespace quorvel::groups {
+
+void turnByKeys(QTabBar* bar) {
+    const auto turn = [bar](std::initializer_list<QKeyCombination> keys, int step) {
+        auto* shortcut = new QShortcut(bar);
+        shortcut->setKeys({keys.begin(), keys.end()});
+        QObject::connect(shortcut, &QShortcut::activated, bar, [bar, step] {
+            bar->setCurrentIndex((bar->currentIndex() + step + bar->count()) % bar->count());
+        });
+    };
+    turn({Qt::CTRL | Qt::Key_Tab}, 1);
+    // Which of the two it is hangs on the keyboard's driver.
+    turn({Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, Qt::CTRL | Qt::SHIFT | Qt::Key_Tab}, -1);
+}
 
 Pages::Pages(QWidget* parent)
     : QWidget(parent), bar_(new QTabBar(this)), stack_(new QStackedWidget(this)) {
@@ -10,6 +25,7 @@ Pages::Pages(QWidget* parent)
     bar_->setAccessibleName(QStringLiteral("Pages"));
     bar_->setExpanding(false);
     bar_->setDrawBase(true);
+    turnByKeys(bar_);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(forms::kFormSpacing);

@@ -7,6 +7,9 @@
 
 namespace quorvel::groups {
 
+/// Ctrl+Tab and Ctrl+Shift+Tab turn `bar` round and round, wherever in its window the keyboard is.
+void turnByKeys(QTabBar* bar);
+
 /// A bar of tabs above the pages.
 class Pages : public QWidget {
     Q_OBJECT

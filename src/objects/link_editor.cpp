@@ -32,6 +32,7 @@ directionprop::directionprop(const House& house, const std::function<void()>& he
     for (const Direction& direction : kDirections) {
         tabs_->addTab(QString::fromLatin1(direction.caption));
     }
+    groups::turnByKeys(tabs_);
 
     pointer_ = new groups::PointerChoice(
         sheet(), {.frame = "Frame1(1)", .list = "Combo1", .preview = "Picture1"}, this);

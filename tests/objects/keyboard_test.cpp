@@ -83,6 +83,33 @@ TEST_F(Keyboard, Scene) {
     });
 }
 
+TEST_F(Keyboard, ControlAndTabTurnThePagesFromEverywhere) {
+    const auto forth = [](const Hand& hand, const char* bar) {
+        QTest::keyClick(hand.window().focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+        return hand.get<QTabBar>(bar).currentIndex();
+    };
+    const auto back = [](const Hand& hand, const char* bar, Qt::Key key = Qt::Key_Backtab) {
+        QTest::keyClick(hand.window().focusWidget(), key, Qt::ControlModifier | Qt::ShiftModifier);
+        return hand.get<QTabBar>(bar).currentIndex();
+    };
+    editScene([&](const Hand& hand) {
+        hand.box("Text2").setFocus();
+        EXPECT_EQ(forth(hand, "Pages"), 1);
+        EXPECT_TRUE(hand.box("MEN(4)").isVisible());
+        hand.button("Command4").setFocus();
+        EXPECT_EQ(forth(hand, "Pages"), 0) << "round and round";
+        EXPECT_EQ(back(hand, "Pages"), 1);
+        EXPECT_FALSE(hand.button("Command1").isEnabled()) << "nothing has changed";
+    });
+    editLink(4, [&](const Hand& hand) {
+        hand.list("combo2").setFocus();
+        EXPECT_EQ(forth(hand, "TabStrip1"), 0);
+        EXPECT_EQ(shell->actions().CurObj, 1);
+        EXPECT_EQ(back(hand, "TabStrip1", Qt::Key_Tab), 3);
+        EXPECT_EQ(shell->actions().CurObj, 4);
+    });
+}
+
 TEST_F(Keyboard, OkIsTheButtonOfEnter) {
     const auto expectOk = [](const Hand& hand) {
         int defaults = 0;
