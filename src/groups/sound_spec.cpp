@@ -76,7 +76,12 @@ void SoundSpec::followAuthor() {
     if (channel != nullptr) {
         connect(channel, &QComboBox::activated, &sheet_, &Sheet::touch);
     }
-    connect(file, &QLineEdit::textChanged, this, &SoundSpec::followFile);
+    connect(file, &QLineEdit::textChanged, this, [this] {
+        if (!sheet_.isFilling()) {
+            silence();
+        }
+        followFile();
+    });
     connect(file, &FileBox::doubleClicked, this, [this] {
         file->clear();
         sheet_.touch();
@@ -113,9 +118,6 @@ bool SoundSpec::isHeard() const {
 void SoundSpec::followFile() {
     const bool any = !file->text().isEmpty();
     const bool wav = any && isWav();
-    if (!sheet_.isFilling()) {
-        silence();
-    }
     playButton_->setEnabled(any);
     volume->setRange(any && !wav ? kMovieVolume : kWavVolume);
     if (!any) {

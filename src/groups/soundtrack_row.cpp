@@ -27,7 +27,13 @@ SoundtrackRow::SoundtrackRow(Sheet& sheet, const Names& names, QWidget* parent)
     locate_->setToolTip(QStringLiteral("Locate"));
     playButton_->setToolTip(QStringLiteral("Play/ Stop"));
     followFile();
-    connect(file, &QLineEdit::textChanged, this, &SoundtrackRow::followFile);
+    connect(file, &QLineEdit::textChanged, this, [this] {
+        if (!sheet_.isFilling()) {
+            stop();
+            sheet_.tools().preview.StopAllWavs();
+        }
+        followFile();
+    });
     connect(file, &FileBox::doubleClicked, this, &SoundtrackRow::cycle);
     connect(locate_, &QPushButton::clicked, this, &SoundtrackRow::locate);
     connect(playButton_, &QPushButton::clicked, this, [this] {
@@ -79,10 +85,6 @@ SoundtrackRow::Kind SoundtrackRow::kind() const {
 }
 
 void SoundtrackRow::followFile() {
-    if (!sheet_.isFilling()) {
-        stop();
-        sheet_.tools().preview.StopAllWavs();
-    }
     const bool any = !file->text().isEmpty() && file->text() != kStop;
     playButton_->setEnabled(any);
     volume->setValue(0);

@@ -54,6 +54,11 @@ TEST_F(HotSpotPreviews, TheFailureSoundPlaysOnce) {
     });
 }
 
+TEST_F(HotSpotPreviews, OpeningTheWindowPlaysAndStopsNothing) {
+    heard();
+    edit([this](const Hand&) { EXPECT_EQ(heard(), QStringList()); });
+}
+
 TEST_F(HotSpotPreviews, AnotherFileStopsTheSoundOfItsRow) {
     listen([this](const Hand& hand) {
         hand.click("Playwav(1)");

@@ -49,6 +49,28 @@ TEST_F(ScenePreviews, AnExitSoundLeavesTheLoopingButtonAsItIs) {
     });
 }
 
+TEST_F(ScenePreviews, OpeningTheWindowPlaysAndStopsNothing) {
+    scene().header(HeaderInt::SceneSound1Volume) = 500;
+    heard();
+    editScene([this](const Hand&) { EXPECT_EQ(heard(), QStringList()); });
+}
+
+TEST_F(ScenePreviews, MusicThatHasEndedCanBeStartedAgain) {
+    editSceneMedia([this](const Hand& hand) {
+        const auto caption = [&hand] { return hand.button("PlayMidfile").text(); };
+        hand.click("PlayMidfile");
+        EXPECT_EQ(caption(), QStringLiteral("[]"));
+        Q_EMIT preview->mp3Ended();
+        EXPECT_EQ(caption(), QStringLiteral(">"));
+        choose(hand, "locatebutton(1)", "a.wav");
+        hand.click("PlayMidfile");
+        Q_EMIT preview->wavEnded(1);
+        EXPECT_EQ(caption(), QStringLiteral("[]")) << "the end of a sound";
+        Q_EMIT preview->wavEnded(0);
+        EXPECT_EQ(caption(), QStringLiteral(">"));
+    });
+}
+
 TEST_F(ScenePreviews, PansAreHeardAsVolumesAre) {
     editSceneMedia([this](const Hand& hand) {
         hand.click("HLeft(2)");
