@@ -247,6 +247,7 @@ TEST_F(HotSpotEditor, APickedSceneIsShownAndMakesItTheTarget) {
     put(HotSpot::TargetScene, 1);
     edit([](const Hand& hand) {
         EXPECT_NE(hand.picture("Image2").picture(), nullptr) << "the canvas, not the store";
+        EXPECT_FALSE(hand.picture("Image2").isEnabled()) << "it leads to the map";
         hand.pick("LnkScn", 2);
         EXPECT_TRUE(hand.option("Option2(1)").isChecked());
         EXPECT_TRUE(hand.picture("Image2").isEnabled());
@@ -274,6 +275,10 @@ TEST_F(HotSpotEditor, TheStyleRunsOnTheSampleAndOnTheCanvas) {
     });
     auto& object = dynamic_cast<canvas::PictureElement&>(animation());
     EXPECT_EQ(object.playhead().mode(), forms::DisplayMode::pingPong);
+    edit([](const Hand& hand) {
+        EXPECT_EQ(hand.picture("SampleGfx").playhead().mode(), forms::DisplayMode::pingPong)
+            << "from the opening on";
+    });
 }
 
 TEST_F(HotSpotEditor, BordersFollowASavedSize) {
