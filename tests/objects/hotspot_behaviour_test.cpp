@@ -218,6 +218,25 @@ TEST_F(HotSpotBehaviour, TheSamplePlaysFromTheOpeningOn) {
     });
 }
 
+TEST_F(HotSpotBehaviour, TheSampleStandsStillWhileItsPageIsTurned) {
+    openGame();
+    writeBytes(files.gfx("wink.gif"),
+               gifBytes(20, 20, {{.colour = 1, .delay = 10}, {.colour = 2, .delay = 10}}));
+    put(HotSpot::Image, "wink.gif");
+    edit([](const Hand& hand) {
+        const forms::Playhead& sample = hand.picture("SampleGfx").playhead();
+        const auto moves = [&sample] {
+            const qint64 frame = sample.frame().cacheKey();
+            return waitUntil([&] { return sample.frame().cacheKey() != frame; }, 500);
+        };
+        EXPECT_TRUE(moves());
+        hand.turnTo(1);
+        EXPECT_FALSE(moves());
+        hand.turnTo(0);
+        EXPECT_TRUE(moves());
+    });
+}
+
 TEST_F(HotSpotBehaviour, AnotherLookAtTheWindowRefreshesItsPreviewsAlone) {
     openGameWithPointers();
     writeBytes(files.gfx("hall.gif"), stillGif(50, 40));

@@ -56,6 +56,7 @@ TEST_F(LinkEditor, AWheelTurnedOverAListInPassingChangesNothing) {
     const store::Scene before = scene();
     editLink(1, [&](const Hand& hand) {
         QComboBox& list = hand.list("combo2");
+        EXPECT_EQ(list.focusPolicy(), Qt::StrongFocus) << "a wheel does not give it the keyboard";
         hand.get<QComboBox>("Combo1").setFocus();
         const auto turn = [&hand] { hand.turnWheel("combo2"); };
         turn();
@@ -64,6 +65,19 @@ TEST_F(LinkEditor, AWheelTurnedOverAListInPassingChangesNothing) {
         list.setFocus();
         turn();
         EXPECT_EQ(list.currentIndex(), 1) << "a list that has the keyboard follows the wheel";
+    });
+}
+
+TEST_F(LinkEditor, TheLinkOnTheCanvasIsClearerOnceItLeadsSomewhere) {
+    open(threeScenes());
+    auto& strip = control<QWidget>(main(), QStringLiteral("Directionl(1)"));
+    const auto seen = [&strip] { return strip.grab().toImage(); };
+    const QImage faint = seen();
+    editLink(1, [&](const Hand& hand) {
+        hand.pick("combo2", 2);
+        EXPECT_NE(seen(), faint);
+        hand.pick("combo2", 0);
+        EXPECT_EQ(seen(), faint);
     });
 }
 

@@ -71,6 +71,20 @@ TEST_F(ScenePreviews, MusicThatHasEndedCanBeStartedAgain) {
     });
 }
 
+TEST_F(ScenePreviews, MusicThatIsAWavStopsByItsButtonAndWithAllSounds) {
+    put(HeaderString::SceneSoundtrack, "a.wav");
+    editSceneMedia([this](const Hand& hand) {
+        hand.click("PlayMidfile");
+        heard();
+        hand.click("PlayMidfile");
+        EXPECT_TRUE(heard().contains(QStringLiteral("StopWav 0")));
+        hand.click("PlayMidfile");
+        EXPECT_EQ(hand.button("PlayMidfile").text(), QStringLiteral("[]"));
+        hand.click("Playwav(3)");
+        EXPECT_EQ(hand.button("PlayMidfile").text(), QStringLiteral(">"));
+    });
+}
+
 TEST_F(ScenePreviews, PansAreHeardAsVolumesAre) {
     editSceneMedia([this](const Hand& hand) {
         hand.click("HLeft(2)");
