@@ -92,6 +92,17 @@ TEST_F(NumberBoxes, AFlagOutOfRangeBecomesOneWhenTheBoxIsLeft) {
     EXPECT_EQ(beeps, expected);
 }
 
+TEST_F(NumberBoxes, AMenuAndAnotherProgramDoNotCountAsLeaving) {
+    NumberBox& flag = make(NumberRule::flag);
+    flag.setText(QStringLiteral("256"));
+    for (const Qt::FocusReason reason : {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason}) {
+        QFocusEvent out(QEvent::FocusOut, reason);
+        QApplication::sendEvent(&flag, &out);
+        EXPECT_EQ(flag.text(), QStringLiteral("256"));
+    }
+    EXPECT_EQ(beeps, 0);
+}
+
 TEST_F(NumberBoxes, OtherBoxesHaveNoRange) {
     for (const NumberRule rule : {NumberRule::freeFlag, NumberRule::digits, NumberRule::value}) {
         NumberBox& any = make(rule);

@@ -1,6 +1,8 @@
 // The window of the scene: its texts, its rules, what is shown and stored at once.
 #include <gtest/gtest.h>
 
+#include <QSignalSpy>
+
 #include "objects/editor_author.h"
 #include "support/windows/tip_reader.h"
 
@@ -84,8 +86,10 @@ TEST_F(SceneEditor, AnEmptyNameGivesAnEntryOfTheNumberAndEmptyParentheses) {
         hand.box("Text2").selectAll();
         QTest::keyClick(&hand.box("Text2"), Qt::Key_Backspace);
         EXPECT_TRUE(hand.button("Command1").isEnabled());
+        const QSignalSpy changed(hand.list("tags").model(), &QAbstractItemModel::dataChanged);
         hand.click("Command1");
         EXPECT_EQ(sceneEntry(1), QStringLiteral("1 ()"));
+        EXPECT_GE(changed.count(), 1) << "lists that show it are told";
         EXPECT_EQ(hand.list("tags").itemText(1), QStringLiteral("1 ()")) << "in every list";
         hand.type("Text2", QStringLiteral("Great Hall of all Halls"));
         EXPECT_EQ(hand.text("Text2"), QStringLiteral("Great Hall of a")) << "what the file takes";
