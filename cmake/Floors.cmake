@@ -4,9 +4,9 @@
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    # Without the leave to overlook what a precompiled header defines, ccache keeps nothing.
+    # Two clones in different folders share what is kept.
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
-        CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+        CCACHE_SLOPPINESS=time_macros,include_file_mtime,include_file_ctime
         CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
 endif()
 
@@ -23,8 +23,8 @@ else()
         -Wno-switch-enum
         # g++ 12 sees an overlap in "(" + std::to_string(n) when it optimises (its bug 105329).
         $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
-        # ccache keeps precompiled headers apart from this flag only.
-        -fpch-preprocess)
+        # Sources that are looked at in one unit may shadow each other's names.
+        $<$<BOOL:${CMAKE_UNITY_BUILD}>:-Wno-shadow>)
 endif()
 target_include_directories(quorvel_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_definitions(quorvel_options INTERFACE

@@ -11,11 +11,19 @@ if(CMAKE_CXX_CLANG_TIDY)
     endforeach()
     string(SHA256 checks "${texts}")
     string(SUBSTRING ${checks} 0 16 checks)
-    # The command lines are g++'s, and clang does not know all of its warnings.
+    # The command lines are g++'s, and clang does not know all of its warnings. What moc and rcc have
+    # written lies in the build folder, and nobody tidies it.
     list(APPEND CMAKE_CXX_CLANG_TIDY --extra-arg=-DQUORVEL_CHECKS_${checks}
-        --extra-arg=-Wno-unknown-warning-option)
-
-    # What moc and rcc have written lies in the build folder, and nobody tidies it. One check has to
-    # be there: clang-tidy refuses to run without any.
-    file(WRITE ${CMAKE_BINARY_DIR}/.clang-tidy "Checks: '-*,misc-definitions-in-headers'\n")
+        --extra-arg=-Wno-unknown-warning-option
+        --checks=-bugprone-suspicious-include  # which is what a unit is made of
+        "--header-filter=^${PROJECT_SOURCE_DIR}/(src|player|tools|examples|tests|bench)/")
 endif()
+
+# quorvel_checks_of_this_folder() makes the .clang-tidy beside a CMakeLists.txt count for the targets
+# after it: the units that are looked at lie in the build folder, where clang-tidy would find that of
+# the project.
+macro(quorvel_checks_of_this_folder)
+    if(CMAKE_CXX_CLANG_TIDY)
+        list(APPEND CMAKE_CXX_CLANG_TIDY --config-file=${CMAKE_CURRENT_SOURCE_DIR}/.clang-tidy)
+    endif()
+endmacro()

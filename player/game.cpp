@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "canvas/elements.h"
+#include "resources/path_text.h"
 #include "store/numbers.h"
 #include "store/paths.h"
 #include "store/record_file.h"
@@ -46,7 +47,7 @@ std::optional<store::Scene> Game::scene(int number) {
                          error.code() == store::ErrorNumber::pathNotFound
                      ? QStringLiteral("There is no game in the folder of this player.")
                      : QStringLiteral("The scenes of this game cannot be read.");
-        detail_ = QStringLiteral("%1: %2").arg(QString::fromStdString(store::textOf(error.file())),
+        detail_ = QStringLiteral("%1: %2").arg(resources::pathText(error.file()),
                                                QString::fromStdString(error.description()));
         return std::nullopt;
     }

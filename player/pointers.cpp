@@ -9,6 +9,7 @@
 #include "forms/pictures.h"
 #include "forms/stock_pointers.h"
 #include "resources/byte_source.h"
+#include "resources/path_text.h"
 #include "store/paths.h"
 
 namespace quorvel::player {
@@ -69,7 +70,7 @@ QCursor pointerFromFile(const std::filesystem::path& file) {
     if (!picture->ok() || image.width() > kLargestSide || image.height() > kLargestSide) {
         return Qt::ArrowCursor;
     }
-    QFile bytes(QString::fromStdString(store::textOf(file)));
+    QFile bytes(resources::pathText(file));
     constexpr qint64 kHeader = 22;  // of the file and of its first picture
     const QPoint at =
         bytes.open(QIODevice::ReadOnly) ? hotSpotOf(bytes.read(kHeader)) : QPoint(0, 0);

@@ -6,11 +6,11 @@
 #include <QPainter>
 
 #include "art/brush.h"
+#include "art/turn.h"
 
 namespace quorvel::sample {
 namespace {
 
-constexpr double kTurn = 6.283185307179586;
 constexpr QSize kSize(350, 238);
 constexpr int kFrames = 54;
 constexpr int kPerSecond = 12;

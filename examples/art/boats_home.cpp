@@ -6,12 +6,12 @@
 #include "art/props.h"
 #include "art/scenery.h"
 #include "art/sprite.h"
+#include "art/turn.h"
 
 namespace quorvel::sample {
 namespace {
 
-constexpr double kTurn = 6.283185307179586;
-constexpr int kHorizon = 262;
+constexpr int kBoatsHomeHorizon = 262;
 const QPointF kLight(520, 73);
 
 void paintBeam(QPainter& painter, const QPointF& a, const QPointF& b, double strength) {
@@ -32,7 +32,7 @@ void paintNightSky(QImage& picture) {
     painter.fillRect(
         picture.rect(),
         downward(
-            0, kHorizon,
+            0, kBoatsHomeHorizon,
             {{0, hex(0x0c1236)}, {0.45, hex(0x2a2c6c)}, {0.8, hex(0x6a4f8c)}, {1, hex(0xb8708c)}}));
     paintStars(painter, {0, 0, 700, 230}, 260, 221);
     painter.end();
@@ -138,7 +138,7 @@ void paintRipples(QPainter& painter, int frame) {
     Random random(226);
     for (int i = 0; i < 120; ++i) {
         const double depth = random.unit();
-        const double y = kHorizon + 6 + depth * 120;
+        const double y = kBoatsHomeHorizon + 6 + depth * 120;
         const double x = 540 + depth * 30 + (8 + 34 * depth) * (random.unit() + random.unit() - 1);
         const double wave = std::sin(kTurn * (random.unit() + frame / 12.0));
         if (wave > 0.1) {
@@ -158,7 +158,8 @@ SceneArt boatsHomeArt() {
     paintHills(point, {254, 12, 130, hex(0x6a4a80), hex(0x8a5a84), 227});
     paintPoint(point);
     point.end();
-    paintWater(picture, {kHorizon, hex(0x9a6484), hex(0x141a48), 0.95, hex(0xffd8b0), 228});
+    paintWater(picture,
+               {kBoatsHomeHorizon, hex(0x9a6484), hex(0x141a48), 0.95, hex(0xffd8b0), 228});
     QPainter again(&picture);
     makeSmooth(again);
     paintPoint(again);

@@ -7,12 +7,12 @@
 #include "art/props.h"
 #include "art/scenery.h"
 #include "art/sprite.h"
+#include "art/turn.h"
 
 namespace quorvel::sample {
 namespace {
 
-constexpr double kTurn = 6.283185307179586;
-const QRectF kBack(150, 70, 400, 230);
+const QRectF kChandleryBack(150, 70, 400, 230);
 
 void paintShopWindow(QPainter& painter) {
     const QPolygonF opening = quad({30, 96}, {122, 116}, {122, 262}, {30, 300});
@@ -139,8 +139,8 @@ SceneArt chandleryArt() {
     QImage picture = newPicture();
     QPainter painter(&picture);
     makeSmooth(painter);
-    paintRoom(painter, {kBack, hex(0x8c7466), hex(0x96694a), hex(0x6a4a3a), false, 81});
-    paintBeams(painter, kBack, 5, hex(0x5a3c2c));
+    paintRoom(painter, {kChandleryBack, hex(0x8c7466), hex(0x96694a), hex(0x6a4a3a), false, 81});
+    paintBeams(painter, kChandleryBack, 5, hex(0x5a3c2c));
     paintShopWindow(painter);
     paintWares(painter);
     paintCounter(painter, {196, 318, 380, 104}, 22, hex(0x8a5a3a), 83);

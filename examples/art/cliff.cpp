@@ -7,17 +7,17 @@
 #include "art/props.h"
 #include "art/scenery.h"
 #include "art/sprite.h"
+#include "art/turn.h"
 
 namespace quorvel::sample {
 namespace {
 
-constexpr double kTurn = 6.283185307179586;
-constexpr int kHorizon = 268;
+constexpr int kCliffHorizon = 268;
 
 void paintLastLight(QImage& picture) {
     QPainter painter(&picture);
     makeSmooth(painter);
-    painter.fillRect(picture.rect(), downward(0, kHorizon,
+    painter.fillRect(picture.rect(), downward(0, kCliffHorizon,
                                               {{0, hex(0x111a42)},
                                                {0.4, hex(0x2c3a78)},
                                                {0.7, hex(0x6a5a94)},
@@ -28,7 +28,7 @@ void paintLastLight(QImage& picture) {
     painter.end();
     paintClouds(picture, {30, 180, hex(0x7a7ac0), hex(0x22265a), 0.6, 142});
     paintClouds(picture, {170, 264, hex(0xffb490), hex(0x5a4a86), 0.55, 143});
-    paintWater(picture, {kHorizon, hex(0xb87888), hex(0x1a2050), 0.9, hex(0xffd0b0), 144});
+    paintWater(picture, {kCliffHorizon, hex(0xb87888), hex(0x1a2050), 0.9, hex(0xffd0b0), 144});
 }
 
 QPainterPath headland() {

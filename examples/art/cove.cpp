@@ -6,12 +6,12 @@
 #include "art/props.h"
 #include "art/scenery.h"
 #include "art/sprite.h"
+#include "art/turn.h"
 
 namespace quorvel::sample {
 namespace {
 
-constexpr double kTurn = 6.283185307179586;
-constexpr int kHorizon = 206;
+constexpr int kCoveHorizon = 206;
 const QPointF kMoon(232, 84);
 
 void paintNight(QImage& picture) {
@@ -20,7 +20,7 @@ void paintNight(QImage& picture) {
     painter.fillRect(
         picture.rect(),
         downward(
-            0, kHorizon,
+            0, kCoveHorizon,
             {{0, hex(0x0c1434)}, {0.5, hex(0x22306a)}, {0.85, hex(0x56609a)}, {1, hex(0x8a88b0)}}));
     paintStars(painter, {0, 0, 700, 190}, 240, 41);
     paintMoon(painter, kMoon, 30, 0.5);
@@ -189,7 +189,7 @@ void paintMoonPath(QPainter& painter, int frame) {
     Random random(54);
     for (int i = 0; i < 130; ++i) {
         const double depth = std::pow(random.unit(), 1.2);
-        const double y = kHorizon + 3 + depth * 96;
+        const double y = kCoveHorizon + 3 + depth * 96;
         const double x = kMoon.x() + (6 + 56 * depth) * (random.unit() + random.unit() - 1) * 1.4;
         const double wave = std::sin(kTurn * (random.unit() + frame / 12.0));
         if (wave > 0.05) {
@@ -259,7 +259,7 @@ void paintIronKey(QPainter& painter) {
 SceneArt coveArt() {
     QImage picture = newPicture();
     paintNight(picture);
-    paintWater(picture, {kHorizon, hex(0x5a6298), hex(0x141a44), 0.9, hex(0xd8e0ff), 44});
+    paintWater(picture, {kCoveHorizon, hex(0x5a6298), hex(0x141a44), 0.9, hex(0xd8e0ff), 44});
     QPainter painter(&picture);
     makeSmooth(painter);
     paintRocks(painter);

@@ -6,18 +6,18 @@
 #include "art/props.h"
 #include "art/scenery.h"
 #include "art/sprite.h"
+#include "art/turn.h"
 
 namespace quorvel::sample {
 namespace {
 
-constexpr double kTurn = 6.283185307179586;
-constexpr int kHorizon = 246;
+constexpr int kHarbourHorizon = 246;
 const QPointF kSun(330, 236);
 
 void paintSky(QImage& picture) {
     QPainter painter(&picture);
     makeSmooth(painter);
-    painter.fillRect(picture.rect(), downward(0, kHorizon,
+    painter.fillRect(picture.rect(), downward(0, kHarbourHorizon,
                                               {{0, hex(0x1e2450)},
                                                {0.28, hex(0x4b3f78)},
                                                {0.52, hex(0x9a5684)},
@@ -164,7 +164,7 @@ void paintGlints(QPainter& painter, int frame, int frames) {
     Random random(91);
     for (int i = 0; i < 190; ++i) {
         const double depth = std::pow(random.unit(), 1.4);
-        const double y = kHorizon + 3 + depth * 100;
+        const double y = kHarbourHorizon + 3 + depth * 100;
         const double spread = 14 + depth * 150;
         const double x = kSun.x() + spread * (random.unit() + random.unit() - 1) * 1.3;
         const double start = random.unit();
@@ -341,7 +341,7 @@ SceneArt harbourArt() {
     paintSky(picture);
     paintFarShore(picture);
     paintTown(picture);
-    paintWater(picture, {kHorizon, hex(0xd8806c), hex(0x1e2248), 0.95, hex(0xffd8a0), 5});
+    paintWater(picture, {kHarbourHorizon, hex(0xd8806c), hex(0x1e2248), 0.95, hex(0xffd8a0), 5});
     QPainter painter(&picture);
     makeSmooth(painter);
     painter.end();

@@ -7,12 +7,12 @@
 #include "art/props.h"
 #include "art/scenery.h"
 #include "art/sprite.h"
+#include "art/turn.h"
 
 namespace quorvel::sample {
 namespace {
 
-constexpr double kTurn = 6.283185307179586;
-const QRectF kBack(130, 64, 440, 240);
+const QRectF kInnBack(130, 64, 440, 240);
 
 void paintHearth(QPainter& painter) {
     QPainterPath breast;
@@ -220,8 +220,8 @@ SceneArt innArt() {
     QImage picture = newPicture();
     QPainter painter(&picture);
     makeSmooth(painter);
-    paintRoom(painter, {kBack, hex(0x9a8070), hex(0x8a5e42), hex(0x5e4234), false, 105});
-    paintBeams(painter, kBack, 4, hex(0x4a3024));
+    paintRoom(painter, {kInnBack, hex(0x9a8070), hex(0x8a5e42), hex(0x5e4234), false, 105});
+    paintBeams(painter, kInnBack, 4, hex(0x4a3024));
     paintHearth(painter);
     paintTaproom(painter);
     drape(painter, plaster({300, 120}, hex(0x8a3a3a), 108),

@@ -6,11 +6,11 @@
 #include "art/props.h"
 #include "art/scenery.h"
 #include "art/sprite.h"
+#include "art/turn.h"
 
 namespace quorvel::sample {
 namespace {
 
-constexpr double kTurn = 6.283185307179586;
 const QPointF kLens(350, 214);
 
 void paintView(QImage& picture) {

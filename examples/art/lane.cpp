@@ -6,11 +6,10 @@
 #include "art/props.h"
 #include "art/scenery.h"
 #include "art/sprite.h"
+#include "art/turn.h"
 
 namespace quorvel::sample {
 namespace {
-
-constexpr double kTurn = 6.283185307179586;
 
 struct FrontLook {
     QColor wall;

@@ -7,12 +7,12 @@
 #include "art/props.h"
 #include "art/scenery.h"
 #include "art/sprite.h"
+#include "art/turn.h"
 
 namespace quorvel::sample {
 namespace {
 
-constexpr double kTurn = 6.283185307179586;
-constexpr int kHorizon = 296;
+constexpr int kLighthouseHorizon = 296;
 
 void paintSeaAtNight(QImage& picture) {
     QPainter painter(&picture);
@@ -20,13 +20,14 @@ void paintSeaAtNight(QImage& picture) {
     painter.fillRect(
         picture.rect(),
         downward(
-            0, kHorizon,
+            0, kLighthouseHorizon,
             {{0, hex(0x0a1230)}, {0.5, hex(0x1e2c64)}, {0.85, hex(0x4c5492)}, {1, hex(0x7a74a8)}}));
     paintStars(painter, {0, 0, 700, 260}, 260, 171);
     paintMoon(painter, {118, 96}, 38, 0.45);
     painter.end();
     paintClouds(picture, {110, 294, hex(0xa8b0dc), hex(0x242e62), 0.58, 172});
-    paintWater(picture, {kHorizon, hex(0x50588e), hex(0x10163c), 0.9, hex(0xd8e0ff), 173});
+    paintWater(picture,
+               {kLighthouseHorizon, hex(0x50588e), hex(0x10163c), 0.9, hex(0xd8e0ff), 173});
 }
 
 QPainterPath towerShape() {

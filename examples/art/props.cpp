@@ -7,11 +7,10 @@
 
 #include "art/materials.h"
 #include "art/noise.h"
+#include "art/turn.h"
 
 namespace quorvel::sample {
 namespace {
-
-constexpr double kTurn = 6.283185307179586;
 
 void paintTimbers(QPainter& painter, const QRectF& wall) {
     const QColor wood = hex(0x3a2620);

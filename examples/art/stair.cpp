@@ -7,11 +7,11 @@
 #include "art/props.h"
 #include "art/scenery.h"
 #include "art/sprite.h"
+#include "art/turn.h"
 
 namespace quorvel::sample {
 namespace {
 
-constexpr double kTurn = 6.283185307179586;
 const QPointF kTop(392, 176);
 
 /// The round wall: stones laid along circles that shrink towards the top of the tower.

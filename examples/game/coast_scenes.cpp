@@ -18,10 +18,6 @@ using store::Reactor;
 using store::Responder;
 using store::Switch;
 
-int number(Item item) {
-    return static_cast<int>(item);
-}
-
 store::Scene cove(const SceneArt& art) {
     SceneBuilder scene("Moonlit Cove", art);
     scene.soundtrack("KeepWaltz.mid", -1100);

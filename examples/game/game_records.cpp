@@ -10,10 +10,6 @@
 namespace quorvel::sample {
 namespace {
 
-std::int16_t small(int value) {
-    return static_cast<std::int16_t>(value);
-}
-
 struct ItemPlan {
     const char* name;
     const char* files;  ///< beginning of the names of its pictures

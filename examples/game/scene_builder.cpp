@@ -3,14 +3,9 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "game/story.h"
+
 namespace quorvel::sample {
-namespace {
-
-std::int16_t small(int value) {
-    return static_cast<std::int16_t>(value);
-}
-
-}  // namespace
 
 ObjectRef& ObjectRef::number(store::NumberField field, int value) {
     store::number(slot_, field) = small(value);

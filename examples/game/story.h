@@ -6,6 +6,7 @@
 /// chandlery (his price is a herring), a match, and the key that Tam lost in the cove.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <vector>
@@ -56,6 +57,11 @@ enum Location { kMapHarbour = 1, kMapLane, kMapCove, kMapCliff, kMapLighthouse }
 
 /// Cue cards.
 enum Card { kCardKeeper = 1, kCardTale, kCardPuffin };
+
+/// `value` as the records hold it: -32768 to 32767, which the caller answers for.
+constexpr std::int16_t small(int value) {
+    return static_cast<std::int16_t>(value);
+}
 
 /// Highest score.
 inline constexpr int kMaxScore = 60;

@@ -19,10 +19,6 @@ using store::Reactor;
 using store::Responder;
 using store::Switch;
 
-int number(Item item) {
-    return static_cast<int>(item);
-}
-
 /// Goodies vanish for good once their flag is set.
 void pickUpOnce(ObjectRef object, Item item, Flag taken) {
     object.number(Goodie::GivenItem, number(item))

@@ -4,12 +4,11 @@
 #include <initializer_list>
 
 #include "art/noise.h"
+#include "art/turn.h"
 #include "sound/wave.h"
 
 namespace quorvel::sample {
 namespace {
-
-constexpr double kTurn = 6.283185307179586;
 
 Wave waves() {
     Wave wave(7.5);

@@ -4,12 +4,11 @@
 #include <cmath>
 
 #include "art/noise.h"
+#include "art/turn.h"
 #include "files/bytes.h"
 
 namespace quorvel::sample {
 namespace {
-
-constexpr double kTurn = 6.283185307179586;
 
 std::size_t samplesIn(double seconds) {
     return static_cast<std::size_t>(std::max(0.0, seconds) * kSampleRate);

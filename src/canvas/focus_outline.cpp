@@ -9,7 +9,7 @@ namespace quorvel::canvas {
 namespace {
 
 constexpr int kDistance = 3;   // from the element, in pixels
-constexpr int kLeastSide = 9;  // of the mark for what lies off the canvas
+constexpr int kLeastMark = 9;  // of the mark for what lies off the canvas
 
 }  // namespace
 
@@ -79,10 +79,10 @@ void FocusOutline::follow() {
     const QRect around =
         focused_->geometry().adjusted(-kDistance, -kDistance, kDistance, kDistance);
     const QRect canvas = parentWidget()->rect();
-    const int left = std::clamp(around.left(), 0, canvas.right() - kLeastSide + 1);
-    const int top = std::clamp(around.top(), 0, canvas.bottom() - kLeastSide + 1);
-    const int right = std::clamp(around.right(), left + kLeastSide - 1, canvas.right());
-    const int bottom = std::clamp(around.bottom(), top + kLeastSide - 1, canvas.bottom());
+    const int left = std::clamp(around.left(), 0, canvas.right() - kLeastMark + 1);
+    const int top = std::clamp(around.top(), 0, canvas.bottom() - kLeastMark + 1);
+    const int right = std::clamp(around.right(), left + kLeastMark - 1, canvas.right());
+    const int bottom = std::clamp(around.bottom(), top + kLeastMark - 1, canvas.bottom());
     setGeometry(QRect(QPoint(left, top), QPoint(right, bottom)));
     raise();
     show();

@@ -15,7 +15,7 @@
 namespace quorvel::canvas {
 namespace {
 
-constexpr std::array kCaptions = {
+constexpr std::array kTypeCaptions = {
     "Ambient (Non-interactive)",
     "HotSpot (Can link to another scene or map, more flexible than a Link Object)",
     "Goodie (An object that the player can pick up)",
@@ -46,7 +46,7 @@ void newlink::build(const std::function<void()>& help) {
     frame->setObjectName(QStringLiteral("Frame1"));
     auto* rows = new QVBoxLayout(frame);
     for (std::size_t type = 0; type < options_.size(); ++type) {
-        auto* row = new forms::OptionText(QString::fromLatin1(kCaptions[type]), frame);
+        auto* row = new forms::OptionText(QString::fromLatin1(kTypeCaptions[type]), frame);
         options_[type] = row->button();
         options_[type]->setObjectName(
             forms::elementName(QStringLiteral("Option1"), static_cast<int>(type)));

@@ -7,8 +7,8 @@
 namespace quorvel::canvas {
 namespace {
 
-constexpr std::array kCaptions = {"Normal empty scene", "Auto-Closeup from current scene",
-                                  "Exact Copy of the current scene"};
+constexpr std::array kSceneCaptions = {"Normal empty scene", "Auto-Closeup from current scene",
+                                       "Exact Copy of the current scene"};
 constexpr std::array kModes = {NewScene::empty, NewScene::closeup, NewScene::exactCopy};
 
 }  // namespace
@@ -20,7 +20,7 @@ NewScenefrm::NewScenefrm(SceneKeeper& keeper, const std::function<void()>& help,
     frame->setObjectName(QStringLiteral("Frame1"));
     auto* options = new QVBoxLayout(frame);
     for (std::size_t i = 0; i < options_.size(); ++i) {
-        options_[i] = new QRadioButton(QString::fromLatin1(kCaptions[i]), frame);
+        options_[i] = new QRadioButton(QString::fromLatin1(kSceneCaptions[i]), frame);
         options_[i]->setObjectName(
             forms::elementName(QStringLiteral("Option1"), static_cast<int>(i)));
         options->addWidget(options_[i]);

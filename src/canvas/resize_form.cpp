@@ -19,11 +19,11 @@
 namespace quorvel::canvas {
 namespace {
 
-constexpr int kLeastSide = 5;
+constexpr int kLeastCustomSide = 5;
 constexpr int kCustom = 3;
 constexpr int kRestore = 4;
 constexpr std::array<std::int16_t, 3> kPresets = {20, 60, 100};
-constexpr std::array kCaptions = {
+constexpr std::array kOptionCaptions = {
     "Preset 1 - Small     (20h X 20w)", "Preset 2 - Medium (60h X 60w)",
     "Preset 3 - Large    (100h X 100w)", "Custom size", "Restore default size and position"};
 constexpr std::array kSizeCaptions = {"Current Width >", "Current Height >", "Proposed Width >",
@@ -88,7 +88,7 @@ QWidget* ResizeD::buildOptions() {
     auto* rows = new QVBoxLayout(frame);
     for (std::size_t i = 0; i < options_.size(); ++i) {
         const int at = static_cast<int>(i);
-        options_[i] = new QRadioButton(QString::fromLatin1(kCaptions[i]), frame);
+        options_[i] = new QRadioButton(QString::fromLatin1(kOptionCaptions[i]), frame);
         options_[i]->setObjectName(forms::elementName(QStringLiteral("Option1"), at));
         connect(options_[i], &QRadioButton::clicked, this, [this, at] { Option1_Click(at); });
         rows->addWidget(options_[i]);
@@ -197,7 +197,8 @@ void ResizeD::Text1_Change() {
 
 bool ResizeD::apply() {
     const Place place = proposed();
-    if (chosen() == kCustom && (place.height < kLeastSide || place.width < kLeastSide)) {
+    if (chosen() == kCustom &&
+        (place.height < kLeastCustomSide || place.width < kLeastCustomSide)) {
         boxes_.tell(QStringLiteral("Custom size is too small!  Minimum size is 5h X 5w."));
         return false;
     }

@@ -2,15 +2,13 @@
 
 #include <system_error>
 
+#include "resources/path_text.h"
+
 namespace quorvel::forms {
 namespace {
 
 namespace fs = std::filesystem;
 using store::ResourceFolder;
-
-QString textOf(const fs::path& path) {
-    return QString::fromStdString(store::textOf(path));
-}
 
 }  // namespace
 
@@ -46,17 +44,18 @@ std::optional<QString> FileChoice::choose(const FileField& field) {
     if (empty) {
         remember(field.folder, folder);
     }
-    const QString chosen = dialogs_.openFile(
-        {.title = field.title,
-         .filter = field.filter,
-         .folder = textOf(folder) + QLatin1Char('/'),
-         .fileName = found ? textOf(found->filename()) : (empty ? QString() : field.current)});
+    const QString chosen =
+        dialogs_.openFile({.title = field.title,
+                           .filter = field.filter,
+                           .folder = resources::pathText(folder) + QLatin1Char('/'),
+                           .fileName = found ? resources::pathText(found->filename())
+                                             : (empty ? QString() : field.current)});
     if (chosen.isEmpty()) {
         return std::nullopt;
     }
     const fs::path file = store::pathOf(chosen.toStdString());
     remember(field.folder, file.parent_path());
-    const QString name = textOf(file.filename());
+    const QString name = resources::pathText(file.filename());
     if (!intake_.CheckFileName(name) ||
         !intake_.CheckFileLoc(chosen, field.folderOf ? field.folderOf(name) : field.folder)) {
         return std::nullopt;

@@ -7,6 +7,7 @@
 
 #include "forms/events.h"
 #include "forms/pick_form.h"
+#include "resources/path_text.h"
 #include "store/paths.h"
 
 namespace quorvel::forms {
@@ -15,10 +16,6 @@ namespace {
 using resources::IntakeNotice;
 using resources::NameFault;
 using What = IntakeNotice::What;
-
-QString textOf(const std::filesystem::path& path) {
-    return QString::fromStdString(store::textOf(path));
-}
 
 QString reasonOf(NameFault fault) {
     switch (fault) {
@@ -48,7 +45,7 @@ QString failureOf(const IntakeNotice& notice) {
     const std::string description(store::describe(notice.error));
     return QStringLiteral("Error %1 (%2)\n%3")
         .arg(QString::number(static_cast<int>(notice.error)), QString::fromStdString(description),
-             textOf(notice.file));
+             resources::pathText(notice.file));
 }
 
 Box warning(const QString& text) {
@@ -56,8 +53,8 @@ Box warning(const QString& text) {
 }
 
 Box refusedSource(const IntakeNotice& notice, const QString& reason) {
-    return warning(
-        QStringLiteral("Quorvel cannot use:\n\n%1\n\n%2").arg(textOf(notice.file), reason));
+    return warning(QStringLiteral("Quorvel cannot use:\n\n%1\n\n%2")
+                       .arg(resources::pathText(notice.file), reason));
 }
 
 }  // namespace
@@ -74,7 +71,8 @@ Box boxOf(const IntakeNotice& notice) {
                                           "rename the file and try again.")
                                .arg(notice.name, reasonOf(notice.fault)));
         case What::sourceMissing:
-            return warning(QStringLiteral("Could not locate:\n\n%1").arg(textOf(notice.file)));
+            return warning(
+                QStringLiteral("Could not locate:\n\n%1").arg(resources::pathText(notice.file)));
         case What::sourceIsLink:
             return refusedSource(notice,
                                  QStringLiteral("It is a link.  Please choose the file itself."));
@@ -86,7 +84,7 @@ Box boxOf(const IntakeNotice& notice) {
         case What::targetIsFolder:
             return warning(QStringLiteral("The file \"%1\" could not be brought into the project.  "
                                           "There is a folder of that name:\n\n%2")
-                               .arg(notice.name, textOf(notice.file)));
+                               .arg(notice.name, resources::pathText(notice.file)));
         case What::notCopied:
             return warning(QStringLiteral("The file \"%1\" could not be brought into the "
                                           "project.  Nothing was changed.\n\n%2")

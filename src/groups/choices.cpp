@@ -9,10 +9,6 @@ namespace {
 
 constexpr int kGroups = 10;
 
-QString name(const char* text) {
-    return QString::fromLatin1(text);
-}
-
 QStringList pointers(bool hotSpot) {
     QStringList names;
     for (const char* one : {"(NORMAL)", "UP", "DOWN", "LEFT", "RIGHT", "UP-LEFT", "UP-RIGHT",

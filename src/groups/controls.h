@@ -20,6 +20,11 @@ class QVBoxLayout;
 
 namespace quorvel::groups {
 
+/// A name or caption out of a group's table of names.
+inline QString name(const char* text) {
+    return QString::fromLatin1(text);
+}
+
 /// A frame with its caption; what stands in it goes into `column`, from top to bottom.
 struct Frame {
     QGroupBox* box;

@@ -3,13 +3,6 @@
 #include <QBoxLayout>
 
 namespace quorvel::groups {
-namespace {
-
-QString name(const char* text) {
-    return QString::fromLatin1(text);
-}
-
-}  // namespace
 
 ImageChoice::ImageChoice(Sheet& sheet, const Names& names, QWidget* parent) : QObject(parent) {
     const Frame made = makeFrame(names.frame, names.caption, parent);

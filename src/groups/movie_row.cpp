@@ -7,10 +7,6 @@
 namespace quorvel::groups {
 namespace {
 
-QString name(const char* text) {
-    return QString::fromLatin1(text);
-}
-
 QString spokenOf(const MovieRow::Names& names, const char* what) {
     return QStringLiteral("%1, %2").arg(name(names.spoken), name(what));
 }

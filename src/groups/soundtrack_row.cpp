@@ -3,13 +3,6 @@
 #include <QGridLayout>
 
 namespace quorvel::groups {
-namespace {
-
-QString name(const char* text) {
-    return QString::fromLatin1(text);
-}
-
-}  // namespace
 
 SoundtrackRow::SoundtrackRow(Sheet& sheet, const Names& names, QWidget* parent)
     : QObject(parent),

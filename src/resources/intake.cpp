@@ -4,6 +4,7 @@
 #include <system_error>
 #include <utility>
 
+#include "resources/path_text.h"
 #include "resources/safe_copy.h"
 
 namespace quorvel::resources {
@@ -15,10 +16,6 @@ using What = IntakeNotice::What;
 
 fs::path pathOf(const QString& text) {
     return store::pathOf(text.toStdString());
-}
-
-QString textOf(const fs::path& path) {
-    return QString::fromStdString(store::textOf(path));
 }
 
 /// The same place, however it is written.
@@ -117,7 +114,7 @@ bool Intake::checkSource(const fs::path& source) {
 
 bool Intake::CheckFileLoc(const QString& fullPath, ResourceFolder kind) {
     const fs::path source = pathOf(fullPath);
-    const QString name = textOf(source.filename());
+    const QString name = pathText(source.filename());
     if (!checkFitness(name) || !checkSource(source)) {
         return false;
     }

@@ -7,7 +7,7 @@ namespace quorvel::resources {
 namespace {
 
 constexpr std::uintmax_t kLargestPlayer = std::uintmax_t{256} << 20;
-constexpr std::size_t kPiece = std::size_t{1} << 20;
+constexpr std::size_t kSearchPiece = std::size_t{1} << 20;
 /// A player has one block, and perhaps the bytes that begin it once more. A file that is full of
 /// beginnings is there to keep its reader busy.
 constexpr int kMostBeginnings = 1000;
@@ -59,14 +59,14 @@ std::optional<VersionInfo> findPlayerMarker(const ByteSource& source) {
     try {
         // The pieces overlap, so that a block across their border is whole in one of them.
         for (std::uintmax_t at = 0; source.size() - at >= kMarkerLength && beginnings > 0;
-             at += kPiece) {
+             at += kSearchPiece) {
             const auto count =
-                std::min<std::uintmax_t>(source.size() - at, kPiece + kMarkerLength - 1);
+                std::min<std::uintmax_t>(source.size() - at, kSearchPiece + kMarkerLength - 1);
             const std::string piece = source.read(at, static_cast<std::size_t>(count));
             if (auto info = findIn(piece, beginnings)) {
                 return info;
             }
-            if (source.size() - at <= kPiece) {
+            if (source.size() - at <= kSearchPiece) {
                 break;
             }
         }

@@ -25,7 +25,7 @@ namespace fs = std::filesystem;
 using store::ErrorNumber;
 using store::RuntimeError;
 
-constexpr std::size_t kPiece = std::size_t{1} << 20;
+constexpr std::size_t kCopyPiece = std::size_t{1} << 20;
 /// More files than that cannot have been left by editors that were killed in the middle of a copy.
 constexpr int kMostLeftovers = 1000;
 
@@ -144,7 +144,7 @@ void copySafely(const fs::path& source, const fs::path& target, const CopyProgre
     store::FileHandle from = store::FileHandle::open(source);
     const std::uintmax_t total = from.size();
     FileBeside copy(target);
-    std::vector<char> piece(kPiece);
+    std::vector<char> piece(kCopyPiece);
     std::uintmax_t done = 0;
     while (const std::size_t count = from.readAt(done, piece)) {
         copy.write(std::span(piece).first(count));

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QStringList>
 
+#include "resources/path_text.h"
 #include "resources/player_marker.h"
 #include "resources/version_resource.h"
 #include "store/paths.h"
@@ -38,7 +39,7 @@ template <class Routine>
 auto withFile(const fs::path& path, Routine routine) {
     using Result = decltype(routine(std::declval<const ByteSource&>()));
     std::error_code error;
-    QFile file(QString::fromStdString(store::textOf(path)));
+    QFile file(pathText(path));
     // Opened for reading alone: a player that runs at the moment is never disturbed.
     if (!fs::is_regular_file(path, error) || !file.open(QIODevice::ReadOnly)) {
         return Result{};

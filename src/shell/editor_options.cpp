@@ -14,7 +14,7 @@ namespace quorvel::shell {
 namespace {
 
 /// Room for a text, in pixels; each frame within another takes its share.
-constexpr int kTextWidth = 530;
+constexpr int kOptionTextWidth = 530;
 
 /// The number of the selected option, or `otherwise` when there is none.
 int selected(std::span<QRadioButton* const> options, int otherwise) {
@@ -135,8 +135,8 @@ QLabel* EdOptions::addText(QWidget* frame, const QString& name, const QString& t
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
-    label->setMinimumWidth(kTextWidth);
-    label->setMinimumHeight(label->heightForWidth(kTextWidth));
+    label->setMinimumWidth(kOptionTextWidth);
+    label->setMinimumHeight(label->heightForWidth(kOptionTextWidth));
     frame->layout()->addWidget(label);
     return label;
 }

@@ -16,7 +16,7 @@ namespace quorvel::shell {
 namespace {
 
 /// Room for a text, in pixels.
-constexpr int kTextWidth = 560;
+constexpr int kProjectTextWidth = 560;
 /// A file name of a project without its ending.
 constexpr int kLongestName = 11;
 
@@ -69,7 +69,7 @@ QLabel* NewProject::addLabel(QVBoxLayout* column, QLabel* label, const char* nam
     // Should a label get more room than its text needs, the text stays where the eye expects it,
     // and the picture in it as well.
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    label->setMinimumWidth(kTextWidth);
+    label->setMinimumWidth(kProjectTextWidth);
     column->addWidget(label);
     return label;
 }

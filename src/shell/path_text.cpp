@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "resources/path_text.h"
 #include "store/paths.h"
 
 namespace quorvel::shell {
@@ -28,7 +29,7 @@ SplitPath splitPath(const QString& path) {
         const bool fromRoot = isSeparator(spelt.front());
         const bool isFolder = isSeparator(spelt.back());
         const auto found = store::resolvePath(fromRoot ? "/" : ".", spelt.toStdString());
-        spelt = QString::fromStdString(store::textOf(found));
+        spelt = resources::pathText(found);
         if (isFolder) {
             spelt += QLatin1Char('/');
         }

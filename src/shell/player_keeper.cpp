@@ -5,6 +5,7 @@
 
 #include "forms/events.h"
 #include "resources/intake.h"
+#include "resources/path_text.h"
 #include "resources/player_file.h"
 #include "resources/versions.h"
 #include "store/paths.h"
@@ -17,10 +18,6 @@ using forms::Box;
 using resources::VersionInfo;
 
 namespace {
-
-QString textOf(const fs::path& path) {
-    return QString::fromStdString(store::textOf(path));
-}
 
 /// The version of a player as its author wrote it.
 QString shownVersion(const VersionInfo& info) {
@@ -56,10 +53,10 @@ void PlayerKeeper::VerifyPlayer() {
         replaceMissing(player, master);
         return;
     }
-    if (!resources::FileExists(textOf(player)) && !replaceMissing(player, master)) {
+    if (!resources::FileExists(resources::pathText(player)) && !replaceMissing(player, master)) {
         return;
     }
-    if (!resources::FileExists(textOf(master))) {
+    if (!resources::FileExists(resources::pathText(master))) {
         tellMasterMissing(
             QStringLiteral("During a routine version comparison, the file 'Game.exe' could not be "
                            "found in the 'Quorvel\\QuorvelDefaults\\' folder.  The copy of the "
@@ -90,7 +87,7 @@ bool PlayerKeeper::replaceMissing(const fs::path& player, const fs::path& master
                      "Player's filename is through the 'General Game Settings'.")
                      .arg(QString::fromStdString(house_.project.PlayerName)),
          .title = QStringLiteral("Quorvel Player Not Found")});
-    if (!resources::FileExists(textOf(master))) {
+    if (!resources::FileExists(resources::pathText(master))) {
         tellMasterMissing(
             QStringLiteral("Could not copy 'Game.exe' from the 'Quorvel\\QuorvelDefaults\\' "
                            "folder.  The file could not be found!  The copy of the Player in the "
@@ -111,7 +108,7 @@ bool PlayerKeeper::copyMaster(const fs::path& player, const fs::path& master) {
         house_.boxes.show(
             {.text = QStringLiteral("The Player could not be copied to your project's folder.\n\n"
                                     "%1\n\nError %2 (%3)")
-                         .arg(textOf(error.file()), QString::number(error.number()),
+                         .arg(resources::pathText(error.file()), QString::number(error.number()),
                               QString::fromStdString(error.description())),
              .title = QStringLiteral("Quorvel Player"),
              .icon = Box::Icon::exclamation});
@@ -155,7 +152,7 @@ void PlayerKeeper::RunPlayer(AskedBy asked) {
 bool PlayerKeeper::startPlayer() {
     try {
         const fs::path player = resources::playerPath(house_.project);
-        const QString path = textOf(player);
+        const QString path = resources::pathText(player);
         const QString folder = QString::fromStdString(house_.project.ProjectFolder);
         if (!resources::FileExists(path)) {
             return false;

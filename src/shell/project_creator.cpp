@@ -4,6 +4,7 @@
 
 #include "forms/events.h"
 #include "resources/file_names.h"
+#include "resources/path_text.h"
 #include "resources/player_file.h"
 #include "resources/safe_copy.h"
 #include "shell/path_text.h"
@@ -82,8 +83,7 @@ void ProjectCreator::tell(const RuntimeError& error) {
     house_.boxes.show(
         {.text = QStringLiteral("The new project could not be created.\n\nStep: %1\n%2\n\n"
                                 "Error %3 (%4)%5\n\nWhat was made before remains in the folder.")
-                     .arg(step_, QString::fromStdString(store::textOf(error.file())),
-                          QString::number(error.number()),
+                     .arg(step_, resources::pathText(error.file()), QString::number(error.number()),
                           QString::fromStdString(error.description()), hint),
          .title = QStringLiteral("New Project"),
          .icon = Box::Icon::exclamation});

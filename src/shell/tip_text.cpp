@@ -12,7 +12,7 @@
 namespace quorvel::shell {
 namespace {
 
-constexpr int kTextWidth = 440;
+constexpr int kTipWidth = 440;
 constexpr int kLampSize = 40;
 
 }  // namespace
@@ -25,7 +25,7 @@ QLabel* addTipText(QVBoxLayout* column, const QString& name) {
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    label->setFixedWidth(kTextWidth);
+    label->setFixedWidth(kTipWidth);
     auto* row = new QHBoxLayout;
     row->setSpacing(forms::kFormMargin);
     row->addWidget(lamp, 0, Qt::AlignTop);
@@ -38,7 +38,7 @@ void showTipText(QLabel& label, const QStringList& all, const QString& text) {
     int height = 0;
     for (const QString& one : all) {
         label.setText(one);
-        height = std::max(height, label.heightForWidth(kTextWidth));
+        height = std::max(height, label.heightForWidth(kTipWidth));
     }
     label.setText(text);
     label.setMinimumHeight(height);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "forms/intake_boxes.h"
+#include "resources/path_text.h"
 #include "support/file_bytes.h"
 #include "support/temp_folder.h"
 #include "support/windows/played_author.h"
@@ -15,11 +16,8 @@ using store::ResourceFolder;
 using test::readBytes;
 using test::writeBytes;
 
-QString text(const fs::path& path) {
-    return QString::fromStdString(store::textOf(path));
-}
 QString folderText(const fs::path& path) {
-    return text(path) + QLatin1Char('/');
+    return resources::pathText(path) + QLatin1Char('/');
 }
 
 class FileChoosing : public testing::Test {
@@ -32,7 +30,7 @@ class FileChoosing : public testing::Test {
     }
     /// The author chooses `file`; what the field gets.
     std::optional<QString> choose(const fs::path& file, const FileField& field) {
-        dialogs.choice = text(file);
+        dialogs.choice = resources::pathText(file);
         return choice.choose(field);
     }
     std::optional<QString> chooseImage(const fs::path& file, const QString& current = {}) {

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 
+#include "resources/path_text.h"
 #include "store/paths.h"
 #include "support/file_bytes.h"
 #include "support/temp_folder.h"
@@ -35,23 +36,21 @@ TEST(ToolkitFilter, TakesWhatIsIncomplete) {
 TEST(FileDialog, ReturnsTheFileThatWasChosen) {
     const TempFolder folder;
     writeBytes(folder / "A Game.QVL", "x");
-    const QString path = QString::fromStdString(store::textOf(folder / "A Game.QVL"));
+    const QString path = resources::pathText(folder / "A Game.QVL");
     forms::SystemFileDialogs dialogs;
     QString chosen;
     withWindow(
         QStringLiteral("QFileDialog"),
         [&] {
-            chosen =
-                dialogs.openFile({.title = QStringLiteral("Choose a project to open"),
-                                  .filter = QStringLiteral("Quorvel Projects (*.qvl)|*.qvl|"),
-                                  .folder = QString::fromStdString(store::textOf(folder.path())),
-                                  .fileName = {}});
+            chosen = dialogs.openFile({.title = QStringLiteral("Choose a project to open"),
+                                       .filter = QStringLiteral("Quorvel Projects (*.qvl)|*.qvl|"),
+                                       .folder = resources::pathText(folder.path()),
+                                       .fileName = {}});
         },
         [&](QWidget& window) {
             auto& dialog = dynamic_cast<QFileDialog&>(window);
             EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Choose a project to open"));
-            EXPECT_EQ(dialog.directory().absolutePath(),
-                      QString::fromStdString(store::textOf(folder.path())));
+            EXPECT_EQ(dialog.directory().absolutePath(), resources::pathText(folder.path()));
             control<QLineEdit>(dialog, QStringLiteral("fileNameEdit"))
                 .setText(QStringLiteral("A Game.QVL"));
             QMetaObject::invokeMethod(&dialog, "accept");
@@ -73,8 +72,8 @@ TEST(FileDialog, ReturnsNothingWhenItIsLeft) {
 
 TEST(FolderDialog, ReturnsTheFolderWithItsSeparator) {
     const TempFolder folder;
-    const QString start = QString::fromStdString(store::textOf(folder.path()));
-    const QString game = QString::fromStdString(store::textOf(folder.makeFolder("A Game")));
+    const QString start = resources::pathText(folder.path());
+    const QString game = resources::pathText(folder.makeFolder("A Game"));
     forms::SystemFileDialogs dialogs;
     const auto choose = [&](const std::function<void(QFileDialog&)>& author) {
         QString chosen;

@@ -182,7 +182,7 @@ TEST_F(Devices, TheSystemsOwnEndsInTimeAlsoWhereThereIsNone) {
     listen({});
     const auto begun = std::chrono::steady_clock::now();
     // As good as silent, should there be a device.
-    engine->PlayWav(file("a.wav", wavBytes(44100, tone(441, 0.001))), 0, 0, 0);
+    engine->PlayWav(file("a.wav", wavBytes(kSecond, tone(441, 0.001))), 0, 0, 0);
     ASSERT_TRUE(waitForEnds(1));
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begun;
     std::printf("a second of sound took %.2f s\n", took.count());

@@ -14,8 +14,6 @@ using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr int kSecond = 44100;
-
 class Mp3 : public MediaTest {
   protected:
     [[nodiscard]] bool timerRuns() const {

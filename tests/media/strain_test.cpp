@@ -38,7 +38,7 @@ long residentMemory() {
 class Strain : public MediaTest {
   protected:
     void SetUp() override {
-        wav = file("a.wav", wavBytes(44100, tone(441)));
+        wav = file("a.wav", wavBytes(kSecond, tone(441)));
         midi = file("a.mid", midiBytes(1000));
         movie = file("a.avi", aviBytes({.sound = true}));
     }

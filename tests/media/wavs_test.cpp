@@ -11,7 +11,6 @@ using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr int kSecond = 44100;
 /// Level of a sine of peak 0.5.
 const double kToneLevel = 20.0 * std::log10(0.5 / std::sqrt(2.0));
 

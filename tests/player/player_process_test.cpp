@@ -4,6 +4,7 @@
 
 #include "player/marker.h"
 #include "player/player_fixture.h"
+#include "resources/path_text.h"
 #include "resources/versions.h"
 #include "store/paths.h"
 
@@ -12,9 +13,7 @@ namespace {
 
 class ThePlayer : public PlayerFixture {
   protected:
-    static QString text(const std::filesystem::path& path) {
-        return QString::fromStdString(store::textOf(path));
-    }
+    static QString text(const std::filesystem::path& path) { return resources::pathText(path); }
     /// Starts a copy out of `in`; true when it is still there after a while.
     bool runsIn(const std::filesystem::path& in) {
         const QString copy = text(in / "My Game.exe");

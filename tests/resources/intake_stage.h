@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "resources/intake.h"
+#include "resources/path_text.h"
 #include "support/file_bytes.h"
 #include "support/temp_folder.h"
 
@@ -45,13 +46,12 @@ class IntakeStage : public ::testing::Test {
 
     IntakeStage() {
         project.ProjectFolder = store::textOf(gfx.parent_path().parent_path()) + "/";
-        rules.InstallPath =
-            QString::fromStdString(store::textOf(folder.path() / "editor")) + QLatin1Char('/');
+        rules.InstallPath = resources::pathText(folder.path() / "editor") + QLatin1Char('/');
     }
 
     bool check(const std::filesystem::path& path,
                store::ResourceFolder kind = store::ResourceFolder::gfx) {
-        return intake.CheckFileLoc(QString::fromStdString(store::textOf(path)), kind);
+        return intake.CheckFileLoc(resources::pathText(path), kind);
     }
     /// The only thing that the author was told.
     [[nodiscard]] resources::IntakeNotice notice() const {

@@ -1,6 +1,7 @@
 #include "resources/intake.h"
 
 #include "resources/intake_stage.h"
+#include "resources/path_text.h"
 
 namespace quorvel::resources {
 namespace {
@@ -11,34 +12,30 @@ using test::readBytes;
 using test::snapshotOf;
 using test::writeBytes;
 
-QString text(const fs::path& path) {
-    return QString::fromStdString(store::textOf(path));
-}
-
 class FileExistence : public test::IntakeStage {};
 
 TEST_F(FileExistence, AFileExistsInAnyLetterCaseAndAFolderDoesNot) {
     writeBytes(gfx / "Coin.gif", "x");
-    EXPECT_TRUE(FileExists(text(gfx / "Coin.gif")));
-    EXPECT_TRUE(FileExists(text(gfx / "COIN.GIF")));
-    EXPECT_TRUE(FileExists(text(folder.path() / "GAME/Resource/gfx/coin.gif")));
-    EXPECT_FALSE(FileExists(text(gfx / "coin.gi")));
-    EXPECT_FALSE(FileExists(text(gfx)));
-    EXPECT_FALSE(FileExists(text(gfx) + QLatin1Char('/')));
+    EXPECT_TRUE(FileExists(pathText(gfx / "Coin.gif")));
+    EXPECT_TRUE(FileExists(pathText(gfx / "COIN.GIF")));
+    EXPECT_TRUE(FileExists(pathText(folder.path() / "GAME/Resource/gfx/coin.gif")));
+    EXPECT_FALSE(FileExists(pathText(gfx / "coin.gi")));
+    EXPECT_FALSE(FileExists(pathText(gfx)));
+    EXPECT_FALSE(FileExists(pathText(gfx) + QLatin1Char('/')));
     EXPECT_FALSE(FileExists(QString()));
 }
 
 TEST_F(FileExistence, StarsAndQuestionMarksAreCharactersLikeOthers) {
     writeBytes(gfx / "coin.gif", "x");
-    EXPECT_FALSE(FileExists(text(gfx / "*.gif")));
-    EXPECT_FALSE(FileExists(text(gfx / "coin.gi?")));
+    EXPECT_FALSE(FileExists(pathText(gfx / "*.gif")));
+    EXPECT_FALSE(FileExists(pathText(gfx / "coin.gi?")));
     writeBytes(gfx / "what?", "x");
-    EXPECT_TRUE(FileExists(text(gfx / "what?")));
+    EXPECT_TRUE(FileExists(pathText(gfx / "what?")));
 }
 
 TEST_F(FileExistence, WhatCannotBeAskedForDoesNotExist) {
-    EXPECT_FALSE(FileExists(text(gfx) + QLatin1Char('/') + QString(5000, QLatin1Char('x'))));
-    EXPECT_FALSE(FileExists(text(gfx / "none/at/all.gif")));
+    EXPECT_FALSE(FileExists(pathText(gfx) + QLatin1Char('/') + QString(5000, QLatin1Char('x'))));
+    EXPECT_FALSE(FileExists(pathText(gfx / "none/at/all.gif")));
     EXPECT_FALSE(FileExists(QStringLiteral("/dev/null")));
 }
 

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "resources/path_text.h"
 #include "store/paths.h"
 #include "support/file_bytes.h"
 #include "support/temp_folder.h"
@@ -27,7 +28,7 @@ class Programs : public ::testing::Test {
         fs::permissions(path, fs::perms::owner_all);
         out = path;
         out += ".out";
-        return QString::fromStdString(store::textOf(path));
+        return resources::pathText(path);
     }
     /// What the script wrote; waits for it.
     std::string written() {
@@ -63,14 +64,14 @@ TEST_F(Programs, AnUnquotedPathTakesArguments) {
 
 TEST_F(Programs, AProgramIsRunWithItsArgumentsInItsFolder) {
     const QString path = script("My Tools/a \"tool\"");
-    const QString here = QString::fromStdString(store::textOf(folder.path()));
+    const QString here = resources::pathText(folder.path());
     EXPECT_TRUE(programs.run(path, {QStringLiteral("a b"), QStringLiteral("\"c\"")}, here));
     EXPECT_EQ(written(), "2\na b\n\"c\"\n");
     EXPECT_FALSE(programs.run(here + QStringLiteral("/nothing"), {}, here));
     EXPECT_FALSE(programs.run(here, {}, here));
     const fs::path plain = folder / "plain";
     writeBytes(plain, "no program");
-    EXPECT_FALSE(programs.run(QString::fromStdString(store::textOf(plain)), {}, here));
+    EXPECT_FALSE(programs.run(resources::pathText(plain), {}, here));
 }
 
 TEST_F(Programs, AProgramIsFoundByItsName) {
@@ -82,10 +83,10 @@ TEST_F(Programs, WhatCannotBeStartedIsReported) {
     EXPECT_FALSE(programs.start(QString()));
     EXPECT_FALSE(programs.start(QStringLiteral("   ")));
     EXPECT_FALSE(programs.start(QStringLiteral("/no/such/program")));
-    EXPECT_FALSE(programs.start(QString::fromStdString(store::textOf(folder.path()))));
+    EXPECT_FALSE(programs.start(resources::pathText(folder.path())));
     const fs::path plain = folder / "plain";
     writeBytes(plain, "no program");
-    EXPECT_FALSE(programs.start(QString::fromStdString(store::textOf(plain))));
+    EXPECT_FALSE(programs.start(resources::pathText(plain)));
 }
 
 }  // namespace

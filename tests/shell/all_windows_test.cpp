@@ -15,6 +15,7 @@
 #include "forms/events.h"
 #include "forms/intake_boxes.h"
 #include "forms/look.h"
+#include "resources/path_text.h"
 #include "shell/splash.h"
 #include "support/windows/shell_fixture.h"
 #include "support/windows/window_checks.h"
@@ -393,9 +394,9 @@ void expectPassWith(const char* variable, const char* value) {
     writeBytes(folder / "screen.json",
                R"({"screens": [{"name": "one", "x": 0, "y": 0, "width": 1600, "height": 1200,
                    "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"),
-                       QStringLiteral("offscreen:configfile=") +
-                           QString::fromStdString(store::textOf(folder / "screen.json")));
+    environment.insert(
+        QStringLiteral("QT_QPA_PLATFORM"),
+        QStringLiteral("offscreen:configfile=") + resources::pathText(folder / "screen.json"));
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QCoreApplication::applicationFilePath(),

@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include "resources/path_text.h"
 #include "resources/player_marker.h"
 #include "store/paths.h"
 #include "support/file_bytes.h"
@@ -15,23 +16,21 @@
 namespace quorvel::test {
 namespace {
 
-QString text(const std::filesystem::path& path) {
-    return QString::fromStdString(store::textOf(path));
-}
-
 TEST(InstallPath, IsTheProgramsFolderWhereItCanBeWritten) {
     const TempFolder folder;
     const auto program = folder.makeFolder("Program Files/bin");
-    EXPECT_EQ(shell::ResolveInstallPath(text(program), text(folder / "user")),
-              text(program) + QLatin1Char('/'));
+    EXPECT_EQ(shell::ResolveInstallPath(resources::pathText(program),
+                                        resources::pathText(folder / "user")),
+              resources::pathText(program) + QLatin1Char('/'));
     EXPECT_FALSE(std::filesystem::exists(folder / "user"));
 }
 
 TEST(InstallPath, TakesDetoursOutOfTheProgramsFolder) {
     const TempFolder folder;
     const auto program = folder.makeFolder("bin");
-    EXPECT_EQ(shell::ResolveInstallPath(text(program) + QStringLiteral("/../bin/"), QString()),
-              text(program) + QLatin1Char('/'));
+    EXPECT_EQ(shell::ResolveInstallPath(resources::pathText(program) + QStringLiteral("/../bin/"),
+                                        QString()),
+              resources::pathText(program) + QLatin1Char('/'));
 }
 
 TEST(InstallPath, ElseIsTheAuthorsOwnFilledFromTheProgram) {
@@ -48,7 +47,8 @@ TEST(InstallPath, ElseIsTheAuthorsOwnFilledFromTheProgram) {
         GTEST_SKIP() << disc.whyNot();
     }
     const auto user = folder / "user";
-    EXPECT_EQ(shell::ResolveInstallPath(text(program), text(user)), text(user) + QLatin1Char('/'));
+    EXPECT_EQ(shell::ResolveInstallPath(resources::pathText(program), resources::pathText(user)),
+              resources::pathText(user) + QLatin1Char('/'));
     EXPECT_EQ(readBytes(user / "QuorvelDefaults/resource/gfx/back.bmp"), "picture");
     EXPECT_EQ(readBytes(user / "QuorvelDefaults/Game.exe"), "the author's own");
     EXPECT_EQ(readBytes(user / "help/index.html"), "help");
@@ -70,7 +70,8 @@ TEST(InstallPath, ANewerPlayerOfTheProgramReplacesTheAuthorsOwn) {
     }
     for (std::uint16_t version = 1; version <= 3; ++version) {
         writeBytes(own, player(version));
-        shell::ResolveInstallPath(text(program), text(folder / "user"));
+        shell::ResolveInstallPath(resources::pathText(program),
+                                  resources::pathText(folder / "user"));
         EXPECT_EQ(readBytes(own), player(std::max<std::uint16_t>(version, 2))) << version;
     }
 }

@@ -5,6 +5,7 @@
 
 #include <QDir>
 
+#include "resources/path_text.h"
 #include "store/paths.h"
 #include "support/file_bytes.h"
 #include "support/temp_folder.h"
@@ -15,10 +16,6 @@ namespace {
 using shell::GetLongFileName;
 using shell::ShrinkPath;
 using shell::splitPath;
-
-QString text(const std::filesystem::path& path) {
-    return QString::fromStdString(store::textOf(path));
-}
 
 QString letters(int count) {
     QString all;
@@ -47,13 +44,13 @@ TEST(ShrinkPath, KeepsBothEndsOfALongPath) {
 
 TEST(GetLongFileName, IsEmptyForWhatDoesNotExist) {
     const TempFolder folder;
-    EXPECT_EQ(GetLongFileName(text(folder / "none")), QString());
+    EXPECT_EQ(GetLongFileName(resources::pathText(folder / "none")), QString());
     EXPECT_EQ(GetLongFileName(QString()), QString());
 }
 
 TEST(GetLongFileName, TakesDetoursOutOfAPath) {
     const TempFolder folder;
-    const QString inner = text(folder.makeFolder("A Game"));
+    const QString inner = resources::pathText(folder.makeFolder("A Game"));
     EXPECT_EQ(GetLongFileName(inner + QStringLiteral("/../A Game/")), QDir(inner).canonicalPath());
 }
 
@@ -68,18 +65,19 @@ TEST(SplitPath, SplitsAtTheLastSeparator) {
 TEST(SplitPath, FindsAPathWithBackslashes) {
     const TempFolder folder;
     writeBytes(folder.makeFolder("My Game") / "Castle.qvl", "x");
-    QString typed = text(folder / "My Game/Castle.qvl");
+    QString typed = resources::pathText(folder / "My Game/Castle.qvl");
     typed.replace(QLatin1Char('/'), QLatin1Char('\\'));
     const auto split = splitPath(typed);
-    EXPECT_EQ(split.folder, text(folder.path()) + QStringLiteral("/My Game/"));
+    EXPECT_EQ(split.folder, resources::pathText(folder.path()) + QStringLiteral("/My Game/"));
     EXPECT_EQ(split.name, QStringLiteral("Castle.qvl"));
 }
 
 TEST(SplitPath, FindsAPathInOtherLetterCase) {
     const TempFolder folder;
     writeBytes(folder.makeFolder("My Game") / "Castle.qvl", "x");
-    const auto split = splitPath(text(folder.path()) + QStringLiteral("/MY GAME/castle.QVL"));
-    EXPECT_EQ(split.folder, text(folder.path()) + QStringLiteral("/My Game/"));
+    const auto split =
+        splitPath(resources::pathText(folder.path()) + QStringLiteral("/MY GAME/castle.QVL"));
+    EXPECT_EQ(split.folder, resources::pathText(folder.path()) + QStringLiteral("/My Game/"));
     EXPECT_EQ(split.name, QStringLiteral("Castle.qvl"));
 }
 
@@ -87,11 +85,11 @@ TEST(SplitPath, TakesAFileWhoseNameHoldsABackslash) {
     const TempFolder folder;
     const auto odd = folder.path() / "odd\\name.qvl";
     writeBytes(odd, "x");
-    if (!QFileInfo::exists(text(odd)) || QDir::separator() != QLatin1Char('/')) {
+    if (!QFileInfo::exists(resources::pathText(odd)) || QDir::separator() != QLatin1Char('/')) {
         GTEST_SKIP() << "a backslash cannot be part of a name here";
     }
-    EXPECT_EQ(splitPath(text(odd)).name, QStringLiteral("odd\\name.qvl"));
-    const QString folderText = text(folder.path()) + QLatin1Char('/');
+    EXPECT_EQ(splitPath(resources::pathText(odd)).name, QStringLiteral("odd\\name.qvl"));
+    const QString folderText = resources::pathText(folder.path()) + QLatin1Char('/');
     EXPECT_EQ(splitPath(folderText + QStringLiteral("ODD\\Name.QVL")).name,
               QStringLiteral("odd\\name.qvl"))
         << "in any letter case too";

@@ -7,6 +7,7 @@
 #include <QProcess>
 #include <QSettings>
 
+#include "resources/path_text.h"
 #include "store/paths.h"
 #include "support/project_builder.h"
 #include "support/temp_folder.h"
@@ -19,10 +20,6 @@ namespace {
 
 constexpr int kMostMegabytes = 120;
 
-QString text(const std::filesystem::path& path) {
-    return QString::fromStdString(store::textOf(path));
-}
-
 class TheProgram : public ::testing::Test {
   protected:
     ~TheProgram() override {
@@ -31,15 +28,16 @@ class TheProgram : public ::testing::Test {
     }
     void prepare(QProcess& process) {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("HOME"), text(home.path()));
-        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), text(home.path()));
+        environment.insert(QStringLiteral("HOME"), resources::pathText(home.path()));
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), resources::pathText(home.path()));
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
         process.setProcessEnvironment(environment);
         process.setProgram(QCoreApplication::applicationDirPath() + QStringLiteral("/quorvel"));
     }
     /// Value of a setting as the process left it on disk.
     [[nodiscard]] QString stored(const QString& name) const {
-        return QSettings(text(home / "TessaroonWorks/Quorvel.conf"), QSettings::IniFormat)
+        return QSettings(resources::pathText(home / "TessaroonWorks/Quorvel.conf"),
+                         QSettings::IniFormat)
             .value(name)
             .toString();
     }
@@ -65,12 +63,15 @@ TEST_F(TheProgram, OpensAProjectStaysSmallAndIsAlone) {
     const TestProject files =
         ProjectBuilder().fileName("My Game.qvl").scenes(3).build(projects.makeFolder("A Folder"));
     prepare(first);
-    first.setWorkingDirectory(text(projects.path()));
+    first.setWorkingDirectory(resources::pathText(projects.path()));
     first.setArguments({QStringLiteral("A Folder/My Game.qvl")});
     first.start();
     ASSERT_TRUE(first.waitForStarted());
     ASSERT_TRUE(waitUntil(
-        [&] { return stored(QStringLiteral("RecentProj 1")) == text(files.projectPath()); },
+        [&] {
+            return stored(QStringLiteral("RecentProj 1")) ==
+                   resources::pathText(files.projectPath());
+        },
         60000));
     const int megabytes = residentMegabytes(first);
     EXPECT_GT(megabytes, 5);

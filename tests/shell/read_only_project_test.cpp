@@ -17,7 +17,7 @@ const QString kWarning = QStringLiteral(
     "changes you make to your project from being be saved, and can cause Project Security failures "
     "(if on).\n\nIf this project is on a CD-ROM or other non-writable media, you may browse the "
     "project.  However, you must copy it to your hard drive if you wish to make any changes.\n");
-const QString kFull = QStringLiteral("An unexpected error has occured:\n61 / Disk full");
+const QString kDiskFull = QStringLiteral("An unexpected error has occured:\n61 / Disk full");
 
 class ReadOnlyProject : public ShellFixture {
   protected:
@@ -176,7 +176,7 @@ TEST_F(FullDisk, ASceneThatCannotBeSavedKeepsTheProjectOpen) {
     boxes.answer(Answer::no);
     action(QStringLiteral("Filemen(3)")).trigger();
     ASSERT_EQ(boxes.shown().size(), 2U);
-    EXPECT_EQ(boxes.texts()[0], kFull);
+    EXPECT_EQ(boxes.texts()[0], kDiskFull);
     expectQuestion(1);
     EXPECT_TRUE(shell->project().ProjectOpen);
     EXPECT_TRUE(action(QStringLiteral("Filemen(3)")).isEnabled());

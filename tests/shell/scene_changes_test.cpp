@@ -18,7 +18,7 @@ namespace {
 
 using store::HeaderString;
 
-constexpr const char* kFull = "An unexpected error has occured:\n61 / Disk full";
+const QString kNoRoom = QStringLiteral("An unexpected error has occured:\n61 / Disk full");
 
 using SceneChanges = SceneFixture;
 
@@ -171,7 +171,7 @@ TEST_F(SceneChanges, AFullDiskKeepsTheAuthorAndHisWork) {
     carry({110, 110}, {210, 210});
     disk.fill();
     next();
-    EXPECT_EQ(boxes.texts(), QStringList{QString::fromLatin1(kFull)});
+    EXPECT_EQ(boxes.texts(), QStringList{kNoRoom});
     EXPECT_EQ(current(), 1);
     EXPECT_EQ(slot(4).SlotInt(2), 200);
     EXPECT_EQ(animation(4).pos(), QPoint(200, 200));
@@ -179,7 +179,7 @@ TEST_F(SceneChanges, AFullDiskKeepsTheAuthorAndHisWork) {
 
     boxes.forget();
     addScene(0);
-    EXPECT_EQ(boxes.texts(), QStringList{QString::fromLatin1(kFull)});
+    EXPECT_EQ(boxes.texts(), QStringList{kNoRoom});
     EXPECT_EQ(shell->project().NumberOfScenes, 2) << "no scene was added";
     EXPECT_EQ(current(), 1);
 

@@ -335,6 +335,10 @@ std::vector<Row<SkinRecord>> rows() {
         INTS(602, 5, Reserved602, 0),
     };
 }
+#undef STR
+#undef STRS
+#undef INT
+#undef INTS
 // clang-format on
 
 }  // namespace quorvel::store::golden

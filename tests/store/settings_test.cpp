@@ -49,7 +49,7 @@ std::vector<std::pair<std::size_t, std::string>> fixedBySlice(int slice) {
     }
 }
 
-GameSettingsRecord recordOf(const std::string& bytes) {
+GameSettingsRecord settingsOf(const std::string& bytes) {
     GameSettingsRecord record{};
     std::copy(bytes.begin(), bytes.end(), bytesOf(record).begin());
     return record;
@@ -72,7 +72,7 @@ TEST_P(EachSlice, SavesItsFieldsAndKeepsAllOthers) {
     test::writeBytes(files_.storePath(4), old);
     std::string form(908, 'n');
     form.replace(403, 2, golden::intBytes(7));  // a score flag within its bounds
-    SaveSettings(project_, slice(), recordOf(form));
+    SaveSettings(project_, slice(), settingsOf(form));
     std::string expected = old;
     for (const auto& [offset, length] : fieldsOfSlice(GetParam())) {
         expected.replace(offset, length, form.substr(offset, length));
@@ -121,7 +121,8 @@ TEST_F(Settings, ASliceThatDoesNotExistDoesNothing) {
     test::truncateFile(files_.storePath(4), 907);
     const std::string before = stored();
     for (const int slice : {0, 6, -1, 99}) {
-        SaveSettings(project_, static_cast<SettingsSlice>(slice), recordOf(std::string(908, 'n')));
+        SaveSettings(project_, static_cast<SettingsSlice>(slice),
+                     settingsOf(std::string(908, 'n')));
         EXPECT_EQ(stored(), before);
         const auto form = LoadSettings(project_, static_cast<SettingsSlice>(slice));
         const auto bytes = bytesOf(form);

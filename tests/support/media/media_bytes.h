@@ -7,6 +7,9 @@
 
 namespace quorvel::test {
 
+/// Frames in one second of the sounds made here.
+inline constexpr int kSecond = 44100;
+
 /// The value of a sample, -1.0 to 1.0, by frame and side (0 left, 1 right).
 using Wave = std::function<double(int frame, int side)>;
 
@@ -16,7 +19,7 @@ Wave tone(double hertz, double peak = 0.5);
 Wave counter();
 
 /// A WAV file of 16 bits, stereo.
-std::string wavBytes(int frames, const Wave& wave, int rate = 44100);
+std::string wavBytes(int frames, const Wave& wave, int rate = kSecond);
 /// A WAV file in IMA ADPCM, mono, 22,050 Hz, `blocks` of 505 samples: a buzz.
 std::string adpcmBytes(int blocks);
 

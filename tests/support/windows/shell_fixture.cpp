@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QSettings>
 
+#include "resources/path_text.h"
 #include "store/paths.h"
 
 namespace quorvel::test {
@@ -64,7 +65,7 @@ void ShellFixture::leave() {
 }
 
 QString ShellFixture::text(const std::filesystem::path& path) {
-    return QString::fromStdString(store::textOf(path));
+    return resources::pathText(path);
 }
 
 }  // namespace quorvel::test
