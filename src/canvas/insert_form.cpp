@@ -88,7 +88,7 @@ void newlink::build(const std::function<void()>& help) {
     addButtonRow(column, {{"Command3", "Continue", [this] { Command3_Click(); },
                            forms::FormButton::Role::byEnter},
                           {"Command2", "Cancel", [this] { reject(); }},
-                          {"Command4", "Help", help}});
+                          {"Command4", "Help", help, forms::FormButton::Role::help}});
 }
 
 void newlink::showEvent(QShowEvent* event) {

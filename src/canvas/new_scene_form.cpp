@@ -32,7 +32,7 @@ NewScenefrm::NewScenefrm(SceneKeeper& keeper, const std::function<void()>& help,
     addButtonRow(column, {{"Command3", "Continue", [this] { Command3_Click(); },
                            forms::FormButton::Role::byEnter},
                           {"Command2", "Cancel", [this] { reject(); }},
-                          {"Command4", "Help", help}});
+                          {"Command4", "Help", help, forms::FormButton::Role::help}});
 }
 
 void NewScenefrm::Command3_Click() {

@@ -76,7 +76,7 @@ void ResizeD::build(const std::function<void()>& help) {
         column, {{"Command1", "Apply", [this] { apply(); }},
                  {"Command2", "Cancel", [this] { reject(); }},
                  {"Command3", "OK", [this] { Command3_Click(); }, forms::FormButton::Role::byEnter},
-                 {"Command4", "Help", help}});
+                 {"Command4", "Help", help, forms::FormButton::Role::help}});
     applyButton_ = buttons.front();
     applyButton_->setEnabled(false);
 }

@@ -46,6 +46,9 @@ std::vector<QPushButton*> Form::addButtonRow(QVBoxLayout* column,
         const bool byEnter = spec.role == FormButton::Role::byEnter;
         button->setAutoDefault(byEnter);
         button->setDefault(byEnter);
+        if (spec.role == FormButton::Role::help) {
+            button->setShortcut(Qt::Key_F1);
+        }
         button->setEnabled(spec.onClick != nullptr);
         if (spec.onClick) {
             connect(button, &QPushButton::clicked, this, spec.onClick);

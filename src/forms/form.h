@@ -15,7 +15,8 @@ namespace quorvel::forms {
 
 /// A button at the foot of a window. Without an answer it is disabled.
 struct FormButton {
-    enum class Role : std::uint8_t { ordinary, byEnter };  ///< `byEnter`: Enter clicks it
+    /// `byEnter`: Enter clicks it. `help`: F1 does.
+    enum class Role : std::uint8_t { ordinary, byEnter, help };
 
     const char* name;
     const char* caption;

@@ -44,7 +44,7 @@ void ProjSecurity::build(const std::function<void()>& help) {
     column->addWidget(hint);
     addButtonRow(
         column, {{"Command1", "OK", [this] { Command1_Click(); }, forms::FormButton::Role::byEnter},
-                 {"Command2", "Help", help}});
+                 {"Command2", "Help", help, forms::FormButton::Role::help}});
     setMinimumWidth(360);
 
     connect(on_, &QRadioButton::clicked, this, [this] { Option1_Click(0); });

@@ -47,7 +47,7 @@ void PropertyForm::addButtons(const Buttons& names, const std::function<void()>&
                                           },
                                           FormButton::Role::byEnter},
                                          {names.cancel, "Cancel", [this] { reject(); }},
-                                         {names.help, "Help", help}});
+                                         {names.help, "Help", help, FormButton::Role::help}});
     apply_ = made.front();
     apply_->setEnabled(false);
     if (names.restore != nullptr) {

@@ -49,7 +49,7 @@ directionprop::directionprop(const House& house, const std::function<void()>& he
     column()->addWidget(scene.box);
     addButtonRow(column(),
                  {{"Command1", "OK", [this] { accept(); }, forms::FormButton::Role::byEnter},
-                  {"Command3", "Help", help}});
+                  {"Command3", "Help", help, forms::FormButton::Role::help}});
 
     connect(pointer_, &groups::PointerChoice::picked, this, &directionprop::Combo1_Click);
     connect(scene_, &groups::SceneChoice::picked, this, &directionprop::combo2_Click);

@@ -63,7 +63,7 @@ EdOptions::EdOptions(EditorSettings& settings, const std::function<void()>& help
                                    {"Command4", "OK", [this] { Command4_Click(); },
                                     forms::FormButton::Role::byEnter},
                                    {"Command2", "Cancel", [this] { reject(); }},
-                                   {"Command5", "Help", help}})
+                                   {"Command5", "Help", help, forms::FormButton::Role::help}})
                  .front();
 }
 

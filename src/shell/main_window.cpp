@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QToolBar>
 
 #include "forms/form.h"
@@ -38,6 +39,9 @@ Main::Main(store::Project& project, store::Scene& scene, forms::PictureStore& pi
     buildToolBar();
     buildCentre(project, scene, pictures);
     lists_ = new MainLists(models, this);
+    auto* help = new QShortcut(Qt::Key_F1, this);
+    connect(help, &QShortcut::activated, this,
+            [this] { Q_EMIT commandChosen(Command::helpContents); });
 }
 
 QAction* Main::addEntry(const QString& name, const QString& text, Command command,

@@ -134,7 +134,7 @@ void NewProject::build() {
     const auto buttons = addButtonRow(
         column, {{"Command2", "OK", [this] { Command2_Click(); }, forms::FormButton::Role::byEnter},
                  {"Command3", "Cancel", [this] { reject(); }},
-                 {"Command5", "Help", work_.help}});
+                 {"Command5", "Help", work_.help, forms::FormButton::Role::help}});
     ok_ = buttons[0];
     cancel_ = buttons[1];
     ok_->setEnabled(false);

@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
 
@@ -216,6 +217,24 @@ class HelpButtons : public ShellFixture {
             },
             author);
     }
+    /// The page that the help shows; empty when it is not open. Closes it.
+    static QString pageShown() {
+        QWidget* help = visibleWindow(QStringLiteral("HelpWindow"));
+        if (help == nullptr) {
+            return {};
+        }
+        const QString page =
+            control<QTextBrowser>(*help, QStringLiteral("Page")).source().fileName();
+        help->close();
+        return page;
+    }
+    static void pressF1(QWidget& window) {
+        window.activateWindow();
+        ASSERT_TRUE(waitUntil([&window] { return window.isActiveWindow(); }));
+        QTest::keyClick(&window, Qt::Key_F1);
+        // A button that is clicked by a key goes down for a moment first.
+        waitUntil([] { return visibleWindow(QStringLiteral("HelpWindow")) != nullptr; });
+    }
     static QList<QPushButton*> helpButtons(const QWidget& window) {
         QList<QPushButton*> found;
         for (auto* button : window.findChildren<QPushButton*>()) {
@@ -237,15 +256,23 @@ TEST_F(HelpButtons, NoneLeadsNowhere) {
             ASSERT_EQ(buttons.size(), 1);
             EXPECT_TRUE(buttons.front()->isEnabled());
             buttons.front()->click();
-            QWidget* help = visibleWindow(QStringLiteral("HelpWindow"));
-            ASSERT_NE(help, nullptr);
-            const auto& page = control<QTextBrowser>(*help, QStringLiteral("Page"));
-            EXPECT_EQ(page.source().fileName(), QString::fromLatin1(one.page));
+            EXPECT_EQ(pageShown(), QString::fromLatin1(one.page));
+            EXPECT_TRUE(window.isVisible());
+            EXPECT_EQ(pageShown(), QString()) << "the help is closed";
+            pressF1(window);
+            EXPECT_EQ(pageShown(), QString::fromLatin1(one.page)) << "F1 leads there too";
             EXPECT_TRUE(window.isVisible());
             window.close();
         });
     }
     EXPECT_TRUE(boxes.shown().empty()) << boxes.texts().join(QLatin1Char('|')).toStdString();
+}
+
+TEST_F(HelpButtons, F1OpensTheContentsOverTheMainWindow) {
+    start();
+    EXPECT_EQ(pageShown(), QString());
+    pressF1(main());
+    EXPECT_EQ(pageShown(), QStringLiteral("index.html"));
 }
 
 // The first steps
