@@ -85,7 +85,6 @@ void SoundSpec::followAuthor() {
     connect(file, &FileBox::doubleClicked, this, [this] {
         file->clear();
         sheet_.touch();
-        Q_EMIT fileCleared();
     });
     connect(locate_, &QPushButton::clicked, this, &SoundSpec::locate);
     connect(playButton_, &QPushButton::clicked, this, &SoundSpec::Playwav_Click);

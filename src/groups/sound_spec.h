@@ -54,9 +54,8 @@ class SoundSpec : public QObject {
     void addTo(QGridLayout* grid, int row);
 
   Q_SIGNALS:
-    /// The author has chosen a file, or taken it away.
+    /// The author has chosen a file.
     void fileChosen();
-    void fileCleared();
 
   private:
     void build(const Names& names, QWidget* parent);

@@ -23,6 +23,19 @@ class NewcomerRoad : public EditorAuthor {
   protected:
     ~NewcomerRoad() override { endPlayers(); }
 
+    /// Starts the editor. The players that its test runs start are real ones on `screen`.
+    void SetUp() override {
+        if (!screen.whyNot().isEmpty()) {
+            GTEST_SKIP() << screen.whyNot().toStdString();
+        }
+        programs.whenRun = [this](const QString& program, const QStringList& arguments) {
+            players_.push_back(screen.start(program, arguments));
+            return players_.back()->waitForStarted();
+        };
+        start();
+        shell->settings().WrongFolder = 3;  // asks, as it does at first
+    }
+
     // What the newcomer does, a step each.
     void makeProject(const char* name) {
         withWindow(
@@ -91,13 +104,6 @@ class NewcomerRoad : public EditorAuthor {
         control<QPushButton>(main(), QString::fromLatin1(arrow)).click();
     }
 
-    /// The players that test runs start are real ones on `screen`.
-    void playOn(const VirtualScreen& screen) {
-        programs.whenRun = [this, &screen](const QString& program, const QStringList& arguments) {
-            players_.push_back(screen.start(program, arguments));
-            return players_.back()->waitForStarted();
-        };
-    }
     void endPlayers() {
         for (const auto& player : players_) {
             player->terminate();
@@ -117,20 +123,12 @@ class NewcomerRoad : public EditorAuthor {
         EXPECT_TRUE(image.save(folder.filePath(QString::fromLatin1(name))));
     }
 
+    const VirtualScreen screen{kScreenSize};
     TempFolder pictures;
     std::vector<std::unique_ptr<QProcess>> players_;
 };
 
 TEST_F(NewcomerRoad, FromNothingToAGameThatRuns) {
-    const VirtualScreen screen(kScreenSize);
-    if (!screen.whyNot().isEmpty()) {
-        GTEST_SKIP() << screen.whyNot().toStdString();
-    }
-    playOn(screen);
-    start();
-
-    shell->settings().WrongFolder = 3;  // asks, as it does at first
-
     makeProject("First");
     ASSERT_TRUE(shell->project().ProjectOpen);
     setPicture("red.bmp", kRed);
@@ -178,13 +176,6 @@ TEST_F(NewcomerRoad, FromNothingToAGameThatRuns) {
 }
 
 TEST_F(NewcomerRoad, ARepeatedTestRunShowsWhatWasChanged) {
-    const VirtualScreen screen(kScreenSize);
-    if (!screen.whyNot().isEmpty()) {
-        GTEST_SKIP() << screen.whyNot().toStdString();
-    }
-    playOn(screen);
-    start();
-    shell->settings().WrongFolder = 3;  // asks, as it does at first
     makeProject("Again");
     setPicture("red.bmp", kRed);
     action(QStringLiteral("Toolbar1(25)")).trigger();
