@@ -17,7 +17,8 @@ class Preview : public QObject {
   public:
     using QObject::QObject;
 
-    /// Makes the first sound come without delay. To be called once the main window stands.
+    /// Makes the first sound come without delay, in the background. To be called when a window
+    /// opens in which something can be heard; the first call counts.
     virtual void prepare() = 0;
 
     /// `channel` is 0 to 15. `loop`: round and round until it is stopped.

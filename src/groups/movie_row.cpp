@@ -15,6 +15,7 @@ QString spokenOf(const MovieRow::Names& names, const char* what) {
 
 MoviePlay::MoviePlay(Sheet& sheet, const QString& owner, QObject* parent)
     : QObject(parent), sheet_(sheet), owner_(owner) {
+    sheet.expectSound();
     connect(&sheet, &Sheet::closing, this, &MoviePlay::stop);
     connect(&sheet.tools().preview, &forms::Preview::movieEnded, this,
             [this](const QString& ownerOfMovie) {

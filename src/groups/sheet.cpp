@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -110,6 +111,12 @@ std::optional<int> indexOf(const QComboBox& list) {
 }
 
 }  // namespace
+
+void Sheet::expectSound() {
+    if (!std::exchange(soundExpected_, true)) {
+        connect(this, &Sheet::activated, this, [this] { tools_.preview.prepare(); });
+    }
+}
 
 void Sheet::touch() {
     if (!filling_) {

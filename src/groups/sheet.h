@@ -71,6 +71,10 @@ class Sheet : public QObject {
 
     [[nodiscard]] const Tools& tools() const { return tools_; }
 
+    /// To be called by a group in which something can be heard: sound is prepared when the window
+    /// opens, so that the first one comes without delay.
+    void expectSound();
+
     /// The author has changed something. Nothing happens while the window is being filled.
     void touch();
     [[nodiscard]] bool isFilling() const { return filling_; }
@@ -120,6 +124,7 @@ class Sheet : public QObject {
     const Tools& tools_;
     std::vector<std::unique_ptr<Binding>> bindings_;
     bool filling_ = false;
+    bool soundExpected_ = false;
 };
 
 }  // namespace quorvel::groups

@@ -21,6 +21,7 @@ SoundSpec::SoundSpec(Sheet& sheet, const Names& names, QWidget* parent)
       play_(names.play),
       alone_(names.alone),
       movies_(names.movies) {
+    sheet.expectSound();
     if (*names.frame == '\0') {
         build(names, parent);
     } else {

@@ -10,6 +10,7 @@ SoundtrackRow::SoundtrackRow(Sheet& sheet, const Names& names, QWidget* parent)
       sheet_(sheet),
       label_(makeLabel(names.label, parent)),
       volumeLabel_(makeLabel("Vol >", parent)) {
+    sheet.expectSound();
     // In the order in which the Tab key visits them.
     locate_ =
         makeSmallButton(name(names.locate), "...", QStringLiteral("Soundtrack, locate"), parent);

@@ -59,9 +59,36 @@ void JobQueue::run() {
     changed_.notify_all();
 }
 
-bool JobQueue::waitUntilDone(std::chrono::milliseconds patience) {
+JobQueue::Wait JobQueue::waitFor(std::unique_lock<std::mutex>& lock, const bool& done,
+                                 std::chrono::milliseconds patience) {
+    changed_.wait_for(lock, patience, [&] { return done || sparing_ > 0; });
+    if (done) {
+        return Wait::done;
+    }
+    return sparing_ > 0 ? Wait::spared : Wait::late;
+}
+
+JobQueue::Wait JobQueue::waitUntilDone(std::chrono::milliseconds patience) {
     std::unique_lock lock(mutex_);
-    return changed_.wait_for(lock, patience, [this] { return done_; });
+    return waitFor(lock, done_, patience);
+}
+
+JobQueue::Wait JobQueue::postAndWait(Job job, std::chrono::milliseconds patience) {
+    const auto done = std::make_shared<bool>(false);  // the job may outlive the waiting
+    post([this, done, job = std::move(job)] {
+        job();
+        const std::lock_guard lock(mutex_);
+        *done = true;
+        changed_.notify_all();
+    });
+    std::unique_lock lock(mutex_);
+    return waitFor(lock, *done, patience);
+}
+
+void JobQueue::spare(int more) {
+    const std::lock_guard lock(mutex_);
+    sparing_ += more;
+    changed_.notify_all();
 }
 
 JobThread::~JobThread() {
@@ -82,7 +109,7 @@ bool JobThread::finish(JobQueue::Job last, std::chrono::milliseconds patience) {
         return true;
     }
     queue_->close(std::move(last));
-    const bool done = queue_->waitUntilDone(patience);
+    const bool done = queue_->waitUntilDone(patience) == JobQueue::Wait::done;
     if (done) {
         thread_.join();
     } else {

@@ -1,5 +1,6 @@
 #include "media/players.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -41,21 +42,47 @@ Players::Players(std::shared_ptr<JobQueue> queue, PlayersSetup setup)
     : queue_(std::move(queue)), setup_(std::move(setup)) {}
 
 void Players::prepare() {
+    const auto spare = spareWhileSilent();
     try {
-        startGStreamer();
+        start();
         makeElement("appsrc");
         const AudioTail tail(setup_.sink);
-    } catch (const MediaError& error) {
+    } catch (const std::exception& error) {
         setup_.unavailable(error.what());
     }
 }
 
+/// Starts the library, once. It may have to look at all of its plug-ins first, in a program of its
+/// own that may hang.
+void Players::start() {
+    if (started_) {
+        return;
+    }
+    const auto spare = spareWhileSilent();
+    setup_.startLibrary();
+    started_ = true;
+}
+
+/// Who closes the engine waits for what plays and for nothing else.
+std::unique_ptr<JobQueue::Spare> Players::spareWhileSilent() {
+    const bool silent = std::ranges::none_of(plays_, [](const Play& play) { return play.id != 0; });
+    return silent ? std::make_unique<JobQueue::Spare>(*queue_) : nullptr;
+}
+
+bool Players::isWanted(std::size_t slot, const PlayOrder& order) const {
+    return (*setup_.wanted)[slot] == order.id;
+}
+
 void Players::play(std::size_t slot, const PlayOrder& order) {
     stop(slot);
-    plays_[slot].id = order.id;
     try {
-        begin(slot, order);
+        start();
+        if (isWanted(slot, order)) {
+            plays_[slot].id = order.id;
+            begin(slot, order);
+        }
     } catch (const std::exception& error) {
+        plays_[slot].id = order.id;
         end(slot, order.id, error.what());
     }
 }
@@ -69,7 +96,6 @@ void Players::begin(std::size_t slot, const PlayOrder& order) {
     if (kindOf(order.file) != kind) {
         throw MediaError(std::string("The file is not ") + wordOf(kind) + ".");
     }
-    startGStreamer();
     Play& play = plays_[slot];
     if (slot < kWavChannels) {
         play.voice = std::make_unique<WavVoice>(order.file, order.loop, setup_.sink, cache_,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
@@ -29,11 +30,19 @@ struct PlayOrder {
     bool loop = false;  ///< of WAV files only
 };
 
+/// Which play is wanted in each slot, by its id, 0 for none. Set on one thread, asked on another.
+using WantedPlays = std::array<std::atomic<std::uint64_t>, slotCount>;
+
 /// What Players are given once.
 struct PlayersSetup {
     std::string sink;                 ///< in the language of gst-launch
     std::filesystem::path soundFont;  ///< empty: the system's
     std::shared_ptr<FrameBox> frames;
+    /// An order whose play is no longer wanted when its turn comes is not begun.
+    std::shared_ptr<const WantedPlays> wanted;
+    /// Starts the sound library; returns when it can be used, throws when
+    /// it cannot.
+    std::function<void()> startLibrary;
     /// Called on the media thread when a play has ended by itself: its id, and words for what
     /// went wrong, empty when nothing did.
     std::function<void(std::size_t slot, std::uint64_t id, const std::string& error)> ended;
@@ -46,7 +55,8 @@ class Players : public std::enable_shared_from_this<Players> {
   public:
     Players(std::shared_ptr<JobQueue> queue, PlayersSetup setup);
 
-    /// Starts GStreamer, which the first play does otherwise, and builds what a sound needs.
+    /// Starts the library, which the first play does otherwise, and builds what a sound needs.
+    /// While nothing plays, nobody has to wait for that.
     void prepare();
     /// Replaces what the slot plays.
     void play(std::size_t slot, const PlayOrder& order);
@@ -67,7 +77,10 @@ class Players : public std::enable_shared_from_this<Players> {
         std::unique_ptr<StreamPlay> stream;  // or none while the slot is free
     };
 
+    void start();
     void begin(std::size_t slot, const PlayOrder& order);
+    [[nodiscard]] std::unique_ptr<JobQueue::Spare> spareWhileSilent();
+    [[nodiscard]] bool isWanted(std::size_t slot, const PlayOrder& order) const;
     void beginStream(std::size_t slot, const PlayOrder& order, Pipeline::Report report);
     void end(std::size_t slot, std::uint64_t id, const std::string& error);
     void watch(std::size_t slot, std::uint64_t id);
@@ -78,6 +91,7 @@ class Players : public std::enable_shared_from_this<Players> {
     PlayersSetup setup_;
     std::shared_ptr<WavCache> cache_ = std::make_shared<WavCache>();
     std::array<Play, slotCount> plays_;
+    bool started_ = false;
 };
 
 }  // namespace quorvel::media

@@ -1,10 +1,10 @@
 #include "media/preview_engine.h"
 
 #include <algorithm>
-#include <future>
 #include <utility>
 
 #include "media/gain.h"
+#include "media/gst_tools.h"
 #include "media/players.h"
 
 namespace quorvel::media {
@@ -23,12 +23,17 @@ double movieAmplitude(int volume) {
 }  // namespace
 
 PreviewEngine::PreviewEngine(PreviewOptions options, QObject* parent)
-    : QObject(parent), options_(std::move(options)), outbox_(std::make_shared<Outbox>(this)) {
+    : QObject(parent),
+      options_(std::move(options)),
+      outbox_(std::make_shared<Outbox>(this)),
+      playing_(std::make_shared<WantedPlays>()) {
     static_assert(kSlots == slotCount);
     PlayersSetup setup;
     setup.sink = options_.sink;
     setup.soundFont = options_.soundFont;
     setup.frames = frames_.box();
+    setup.wanted = playing_;
+    setup.startLibrary = options_.startLibrary ? options_.startLibrary : startGStreamer;
     setup.ended = [this, outbox = outbox_](std::size_t slot, std::uint64_t id,
                                            const std::string& error) {
         outbox->post(
@@ -46,7 +51,13 @@ PreviewEngine::PreviewEngine(PreviewOptions options, QObject* parent)
 PreviewEngine::~PreviewEngine() {
     outbox_->close();
     frames_.box()->close();
-    thread_.finish([players = players_] { players->stopAll(); }, options_.patience);
+    for (auto& id : *playing_) {
+        id = 0;
+    }
+    if (!thread_.finish([players = players_] { players->stopAll(); }, options_.patience) &&
+        options_.leftBehind) {
+        options_.leftBehind();
+    }
 }
 
 void PreviewEngine::post(std::function<void(Players&)> job) {
@@ -55,13 +66,15 @@ void PreviewEngine::post(std::function<void(Players&)> job) {
 }
 
 void PreviewEngine::prepare() {
-    post([](Players& players) { players.prepare(); });
+    if (!std::exchange(prepared_, true)) {
+        post([](Players& players) { players.prepare(); });
+    }
 }
 
 void PreviewEngine::play(std::size_t slot, PlayOrder order) {
     lastError_.clear();
     order.id = ++lastId_;
-    playing_[slot] = order.id;
+    (*playing_)[slot] = order.id;
     if (slot == movieSlot) {
         frames_.box()->expect(order.id);
     }
@@ -70,7 +83,7 @@ void PreviewEngine::play(std::size_t slot, PlayOrder order) {
 
 /// What is still on its way from the play is ignored from now on.
 void PreviewEngine::stop(std::size_t slot) {
-    if (std::exchange(playing_[slot], 0) != 0) {
+    if ((*playing_)[slot].exchange(0) != 0) {
         post([slot](Players& players) { players.stop(slot); });
     }
 }
@@ -88,7 +101,7 @@ void PreviewEngine::setPan(std::size_t slot, int pan) {
 }
 
 void PreviewEngine::onEnded(std::size_t slot, std::uint64_t id, const QString& error) {
-    if (playing_[slot] != id) {
+    if ((*playing_)[slot] != id) {
         return;
     }
     lastError_ = error;
@@ -97,7 +110,7 @@ void PreviewEngine::onEnded(std::size_t slot, std::uint64_t id, const QString& e
         mp3AtEnd_ = true;
         return;  // the timer finds it
     }
-    playing_[slot] = 0;
+    (*playing_)[slot] = 0;
     if (slot < kChannels) {
         Q_EMIT wavEnded(static_cast<int>(slot));
     } else if (slot == midiSlot) {
@@ -210,11 +223,11 @@ void PreviewEngine::onTick() {
 
 void PreviewEngine::askMp3Times() {
     mp3Asked_ = true;
-    post([this, outbox = outbox_, id = playing_[mp3Slot]](Players& players) {
+    post([this, outbox = outbox_, id = (*playing_)[mp3Slot].load()](Players& players) {
         const auto [position, duration] = players.mp3Times();
         outbox->post([this, id, position = position, duration = duration] {
             mp3Asked_ = false;
-            if (id == playing_[mp3Slot] && !mp3AtEnd_) {
+            if (id == (*playing_)[mp3Slot] && !mp3AtEnd_) {
                 mp3Duration_ = std::max(duration, 0.0);
                 // Until it is over the position stays behind the duration, which is a guess for
                 // some files.
@@ -229,12 +242,8 @@ bool PreviewEngine::CloseMediaEngine() {
     if (!thread_.isStarted()) {
         return true;
     }
-    const auto closed = std::make_shared<std::promise<void>>();
-    post([closed](Players& players) {
-        players.stop(mp3Slot);
-        closed->set_value();
-    });
-    return closed->get_future().wait_for(options_.patience) == std::future_status::ready;
+    return thread_.queue()->postAndWait([players = players_] { players->stop(mp3Slot); },
+                                        options_.patience) != JobQueue::Wait::late;
 }
 
 // -- movies

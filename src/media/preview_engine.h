@@ -2,9 +2,11 @@
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -26,8 +28,14 @@ struct PreviewOptions {
     std::string sink = "autoaudiosink";
     /// The instruments of MIDI; empty for the first that the system has.
     std::filesystem::path soundFont = {};
-    /// How long CloseMediaEngine() and the destructor wait for a sound device that hangs.
+    /// How long CloseMediaEngine() and the destructor wait for what plays on a device that hangs.
     std::chrono::milliseconds patience{2000};
+    /// Starts the sound library; called on the engine's thread until it has succeeded, and may take
+    /// as long as it wants. Throws when it cannot. Empty for the library's own start.
+    std::function<void()> startLibrary = {};
+    /// Called by the destructor when it has left its thread behind: the process must not end by
+    /// taking down what that thread uses.
+    std::function<void()> leftBehind = {};
 };
 
 /// The one preview engine. The shell owns it; it lives in the event loop's thread, and so does who
@@ -54,12 +62,12 @@ class PreviewEngine : public QObject {
     PreviewEngine(const PreviewEngine&) = delete;
     PreviewEngine& operator=(const PreviewEngine&) = delete;
     /// Stops everything. Waits for the thread as long as the options say, and leaves one behind
-    /// that hangs.
+    /// that hangs; one that is preparing is left behind at once.
     ~PreviewEngine() override;
 
     /// Starts the sound library ahead of the first order, so that this is heard without delay, and
-    /// looks whether all is there that sounds need; if not, unavailable() tells. To be called when
-    /// the main window stands.
+    /// looks whether all is there that sounds need; if not, unavailable() tells. The first call
+    /// counts. To be called when an order can be expected: nothing is loaded before.
     void prepare();
 
     /// Plays `file` once, or round and round without a gap, in place of what the channel played.
@@ -88,8 +96,9 @@ class PreviewEngine : public QObject {
     [[nodiscard]] double mp3Position() const { return mp3Position_; }
     /// In seconds; 0 until it is known and while nothing plays.
     [[nodiscard]] double mp3Duration() const { return mp3Duration_; }
-    /// Gives back what plays the MP3 and waits until that is done; false when it could not be. A
-    /// later PlayMp3() builds it anew.
+    /// Gives back what plays the MP3 and waits until that is done; false when what plays cannot be
+    /// stopped in the time that the options say. What is being prepared plays nothing yet, and
+    /// nobody waits for it. A later PlayMp3() builds it anew.
     bool CloseMediaEngine();
 
     /// Plays a movie; `owner` says who started it. `volume` is 0 (silent) to 100 (full), the factor
@@ -124,7 +133,7 @@ class PreviewEngine : public QObject {
     void setAmplitude(std::size_t slot, double factor);
     void setPan(std::size_t slot, int pan);
     void post(std::function<void(Players&)> job);
-    [[nodiscard]] bool isPlaying(std::size_t slot) const { return playing_[slot] != 0; }
+    [[nodiscard]] bool isPlaying(std::size_t slot) const { return (*playing_)[slot] != 0; }
     void onEnded(std::size_t slot, std::uint64_t id, const QString& error);
     void onTick();
     void askMp3Times();
@@ -133,9 +142,11 @@ class PreviewEngine : public QObject {
     MovieFrames frames_;
     std::shared_ptr<Outbox> outbox_;
     JobThread thread_;
+    /// Ids of the plays, 0 where there is none; the engine's thread asks it.
+    std::shared_ptr<std::array<std::atomic<std::uint64_t>, kSlots>> playing_;
     std::shared_ptr<Players> players_;
+    bool prepared_ = false;
     std::uint64_t lastId_ = 0;
-    std::array<std::uint64_t, kSlots> playing_{};  // ids of the plays, 0 where there is none
     QTimer MP3Timer_{this};
     double mp3Position_ = 0.0;
     double mp3Duration_ = 0.0;

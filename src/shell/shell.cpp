@@ -169,7 +169,6 @@ void Shell::InitializeEditor() {
     refreshCommands();
     EditorRunning = true;
     main_->showFor(surroundings_.screenSize());
-    preview_->prepare();
     openCommandLine();
     if (surroundings_.arguments.isEmpty() && settings_.TipsAtStart == QStringLiteral("Yes")) {
         guide_->showTipAtStart();

@@ -153,6 +153,39 @@ class Groups : public ToolsFixture {
     std::unique_ptr<SmallForm> form;
 };
 
+/// A window with whatever a test puts into it.
+class OpenForm : public PropertyForm {
+  public:
+    using PropertyForm::sheet;
+    explicit OpenForm(const Tools& tools)
+        : PropertyForm(QStringLiteral("OpenForm"), QStringLiteral("Open"), tools, nullptr) {}
+};
+
+TEST_F(Groups, SoundIsPreparedByTheWindowsInWhichItCanBeHeard) {
+    const auto preparedBy = [this](const std::function<void(OpenForm&)>& build) {
+        preview->prepared = 0;
+        OpenForm window(*tools);
+        build(window);
+        EXPECT_EQ(preview->prepared, 0) << "not before it opens";
+        window.show();
+        QCoreApplication::processEvents();
+        return preview->prepared > 0;
+    };
+    EXPECT_FALSE(preparedBy([](OpenForm& window) {
+        new FlagTest(window.sheet(), {.rule = NumberRule::freeFlag}, &window);
+    }));
+    EXPECT_TRUE(preparedBy([](OpenForm& window) {
+        new SoundSpec(window.sheet(), {.k = 1, .spoken = "Door", .frame = "Frame1"}, &window);
+    }));
+    EXPECT_TRUE(preparedBy([](OpenForm& window) {
+        new SoundtrackRow(window.sheet(), {.locate = "L", .play = "P", .slider = "S", .value = "V"},
+                          &window);
+    }));
+    EXPECT_TRUE(preparedBy([](OpenForm& window) {
+        new MoviePlay(window.sheet(), QStringLiteral("Goodie"), &window);
+    }));
+}
+
 TEST_F(Groups, AMapLocationTicksItsCheckAndIsStoredByItsNumber) {
     SmallForm& small = show();
     EXPECT_EQ(small.map->check->text(), QStringLiteral("Add a map location"));

@@ -144,6 +144,16 @@ void Capture::forget() {
     }
 }
 
+int Capture::closes() const {
+    const std::lock_guard lock(mutex_);
+    return closes_;
+}
+
+void Capture::waitForHanging() {
+    std::unique_lock lock(mutex_);
+    changed_.wait(lock, [this] { return hanging_ > 0; });
+}
+
 void Capture::release() {
     const std::lock_guard lock(mutex_);
     released_ = true;
@@ -158,6 +168,7 @@ void Capture::opened() {
 void Capture::closed(int take) {
     const std::lock_guard lock(mutex_);
     --open_;
+    ++closes_;
     if (take >= 0) {
         takes_[static_cast<std::size_t>(take)].closed = true;
     }
@@ -179,6 +190,8 @@ int Capture::heard(int take, const float* samples, std::size_t count) {
 
 void Capture::hang() {
     std::unique_lock lock(mutex_);
+    ++hanging_;
+    changed_.notify_all();
     changed_.wait(lock, [this] { return released_; });
 }
 

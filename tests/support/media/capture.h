@@ -56,6 +56,10 @@ class Capture {
     /// Lets go the samples of all takes that are closed.
     void forget();
 
+    /// Devices that have been given back.
+    [[nodiscard]] int closes() const;
+    /// Until a wedged device hangs.
+    void waitForHanging();
     /// Lets a wedged device go on.
     void release();
 
@@ -71,6 +75,8 @@ class Capture {
     std::condition_variable changed_;
     std::deque<Take> takes_;
     int open_ = 0;
+    int closes_ = 0;
+    int hanging_ = 0;
     bool released_ = false;
 };
 

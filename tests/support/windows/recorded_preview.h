@@ -12,8 +12,9 @@ class RecordedPreview : public forms::Preview {
     /// What was asked, in order: "PlayWav door.wav -600 4000 3 loop", "StopMovie".
     QStringList orders;
     bool closes = true;  ///< the answer of CloseMediaEngine()
+    int prepared = 0;    ///< how often prepare() was called
 
-    void prepare() override { note(QStringLiteral("prepare")); }
+    void prepare() override { ++prepared; }
     void PlayWav(const QString& name, int volume, int pan, int channel, bool loop) override {
         note(QStringLiteral("PlayWav %1 %2 %3 %4%5")
                  .arg(name, QString::number(volume), QString::number(pan), QString::number(channel),
