@@ -23,6 +23,8 @@ class Pipeline {
     ~Pipeline();
 
     [[nodiscard]] GstElement* element() const { return element_.get(); }
+    /// For others that watch the pipeline.
+    [[nodiscard]] const Report& report() const { return report_; }
     /// Begins to play. A failure is reported, like a later one.
     void start();
     /// True once something has been played or shown.

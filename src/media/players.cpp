@@ -4,6 +4,7 @@
 #include <exception>
 #include <utility>
 
+#include "media/file_claims.h"
 #include "media/file_kind.h"
 #include "media/sound_font.h"
 
@@ -95,6 +96,9 @@ void Players::begin(std::size_t slot, const PlayOrder& order) {
     }
     if (kindOf(order.file) != kind) {
         throw MediaError(std::string("The file is not ") + wordOf(kind) + ".");
+    }
+    if (const std::string words = refusalOf(order.file, kind); !words.empty()) {
+        throw MediaError(words);
     }
     Play& play = plays_[slot];
     if (slot < kWavChannels) {

@@ -5,6 +5,8 @@
 #include <system_error>
 #include <utility>
 
+#include "media/stream_guard.h"
+
 namespace quorvel::media {
 namespace {
 
@@ -76,6 +78,7 @@ StreamPlay::StreamPlay(const std::filesystem::path& file, const std::string& sin
     : tail_(sink), soundFont_(soundFont.string()), picture_(std::move(picture)) {
     pipeline_ = std::make_unique<Pipeline>(makeElement("playbin"), std::move(report));
     GstElement* playbin = pipeline_->element();
+    guardStreams(playbin, &pipeline_->report());
     const int flags = picture_.box == nullptr ? kAudio : kAudio | kVideo;
     g_object_set(playbin, "uri", uriOf(file).c_str(), "flags", flags, "audio-sink", tail_.bin(),
                  nullptr);

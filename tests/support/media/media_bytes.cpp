@@ -81,13 +81,20 @@ std::string pictureFormat(const MovieShape& shape) {
     put32(out, shape.height);
     put16(out, 1);
     put16(out, 24);
-    put32(out, 0);
+    if (shape.picture.empty()) {
+        put32(out, 0);
+    } else {
+        out += shape.coding;
+    }
     put32(out, (shape.width * 3 + 3) / 4 * 4 * shape.height);
     out.append(16, '\0');
     return chunk("strf", out);
 }
 
 std::string picture(const MovieShape& shape, std::uint32_t rgb) {
+    if (!shape.picture.empty()) {
+        return shape.picture;
+    }
     std::string row;
     for (int x = 0; x < shape.width; ++x) {
         row += static_cast<char>(rgb & 0xFF);
@@ -190,8 +197,8 @@ std::string aviBytes(const MovieShape& shape) {
     constexpr int kRate = 44100;
     std::string headers =
         movieHeader(shape) +
-        list("strl", streamHeader("vids", "DIB ", 1, shape.perSecond, shape.frames, 0) +
-                         pictureFormat(shape));
+        list("strl", streamHeader("vids", shape.coding, 1, shape.perSecond, shape.frames, 0) +
+                         pictureFormat(shape) + shape.properties);
     const int perFrame = kRate / shape.perSecond;
     if (shape.sound) {
         headers += list("strl", streamHeader("auds", std::string(4, '\0'), 4, kRate * 4,

@@ -32,6 +32,10 @@ struct MovieShape {
     int frames = 10;
     int perSecond = 20;
     bool sound = false;  ///< a tone of 441 Hz, peak 0.5, as long as the pictures
+    /// Every picture, ready in the coding that is named; empty for uncompressed ones.
+    std::string picture = {};
+    std::string coding = "DIB ";
+    std::string properties = {};  ///< a chunk more behind the format of the pictures
 };
 /// The colour of a frame, as 0xRRGGBB: its number is in the red.
 std::uint32_t movieColour(int frame);
