@@ -6,13 +6,13 @@
 #include <system_error>
 #include <utility>
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QPainter>
 #include <QSvgRenderer>
 
 #include "forms/look.h"
+#include "forms/picture_file.h"
 #include "forms/pictures_frames.h"
 #include "store/paths.h"
 
@@ -31,7 +31,7 @@ bool isPictureFormat(const QByteArray& format) {
 
 /// The size that the file's header promises. Of a GIF the reader would tell it only after a walk
 /// through all of its frames.
-QSize promisedSize(QFile& file, const QImageReader& reader, const QByteArray& format) {
+QSize promisedSize(PictureFile& file, const QImageReader& reader, const QByteArray& format) {
     if (format != "gif") {
         return reader.size();
     }
@@ -57,8 +57,8 @@ PicturePtr failed(Picture::Problem problem) {
 }
 
 PicturePtr decode(const fs::path& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    PictureFile file(path);
+    if (!file.open()) {
         return failed(Picture::Problem::refused);
     }
     QImageReader reader(&file);

@@ -11,7 +11,7 @@ int frameDelay(int delay) {
 }
 
 FrameStream::FrameStream(const std::filesystem::path& file) : file_(file) {
-    if (file_.open(QIODevice::ReadOnly)) {
+    if (file_.open()) {
         reader_.setDevice(&file_);
     }
 }
@@ -39,6 +39,7 @@ const Frame* PictureFrames::at(std::size_t number) {
         }
         tooMany_ = bytes_ > kMostBytes;
         if (complete_ || tooMany_) {
+            loopCount_ = stream_->loopCount();
             stream_.reset();
         }
     }
@@ -54,13 +55,6 @@ std::unique_ptr<FrameStream> PictureFrames::streamAt(std::size_t number) const {
     for (std::size_t i = 0; i < number && stream->next(); ++i) {
     }
     return stream;
-}
-
-int PictureFrames::loopCount() {
-    if (!loopCount_) {
-        loopCount_ = FrameStream(file_).loopCount();
-    }
-    return *loopCount_;
 }
 
 }  // namespace quorvel::forms

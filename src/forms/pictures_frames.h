@@ -6,9 +6,10 @@
 #include <optional>
 #include <vector>
 
-#include <QFile>
 #include <QImage>
 #include <QImageReader>
+
+#include "forms/picture_file.h"
 
 namespace quorvel::forms {
 
@@ -29,11 +30,12 @@ class FrameStream {
     /// The next frame; nothing behind the last one or where the file is damaged.
     std::optional<Frame> next();
 
-    /// Rounds that the file asks for beyond the first, 0 when it says nothing, -1 for ever.
-    [[nodiscard]] int loopCount() const { return reader_.loopCount(); }
+    /// Rounds that the file asks for beyond the first, 0 when it says nothing, -1 for ever: as far
+    /// as it was read, so for certain behind the last frame.
+    [[nodiscard]] int loopCount() const { return file_.loopCount(); }
 
   private:
-    QFile file_;
+    PictureFile file_;
     QImageReader reader_;
 };
 
@@ -51,14 +53,14 @@ class PictureFrames {
     [[nodiscard]] bool tooMany() const { return tooMany_; }
     /// A stream whose next frame is `number`.
     [[nodiscard]] std::unique_ptr<FrameStream> streamAt(std::size_t number) const;
-    /// As of `FrameStream`.
-    [[nodiscard]] int loopCount();
+    /// As of `FrameStream`; to be asked when the last frame was read.
+    [[nodiscard]] int loopCount() const { return loopCount_; }
 
   private:
     std::filesystem::path file_;
     std::unique_ptr<FrameStream> stream_;  // until the last frame was read
     std::vector<Frame> frames_;
-    std::optional<int> loopCount_;
+    int loopCount_ = 0;
     qsizetype bytes_ = 0;
     bool complete_ = false;
     bool tooMany_ = false;

@@ -85,7 +85,7 @@ bool Playhead::advanceKept() {
         }
         backward_ = mode_ == DisplayMode::pingPong;
         next = backward_ ? number_ - 1 : 0;
-        frame = backward_ || beginRound() ? frames_->at(next) : nullptr;
+        frame = backward_ || beginRound(frames_->loopCount()) ? frames_->at(next) : nullptr;
     }
     if (frame == nullptr) {
         return false;
@@ -101,7 +101,7 @@ bool Playhead::advanceStream() {
     }
     auto frame = stream_->next();
     ++number_;
-    if (!frame && (mode_ == DisplayMode::pingPong || beginRound())) {
+    if (!frame && (mode_ == DisplayMode::pingPong || beginRound(stream_->loopCount()))) {
         stream_ = frames_->streamAt(0);
         frame = stream_->next();
         number_ = 0;
@@ -113,12 +113,12 @@ bool Playhead::advanceStream() {
     return true;
 }
 
-/// Counts the rounds; false when the one that has ended was the last.
-bool Playhead::beginRound() {
+/// Counts the rounds, of which the file asks for `count`; false when the one that has ended was the
+/// last.
+bool Playhead::beginRound(int count) {
     if (mode_ == DisplayMode::once) {
         return false;
     }
-    const int count = frames_->loopCount();
     ++round_;
     return count <= 0 || round_ <= count;
 }

@@ -58,7 +58,7 @@ class Playhead : public QObject {
     void advance();
     bool advanceKept();
     bool advanceStream();
-    bool beginRound();
+    bool beginRound(int count);
     void show(const Frame& frame);
     void schedule();
 

@@ -6,6 +6,8 @@
 #include <string>
 #include <sys/stat.h>
 
+#include <QBuffer>
+
 #include "forms/pictures_frames.h"
 #include "support/file_bytes.h"
 #include "support/gif_bytes.h"
@@ -19,6 +21,27 @@ using Problem = Picture::Problem;
 using test::gifBytes;
 using test::gifColour;
 using test::writeBytes;
+
+/// Where the first block of a GIF of ours begins: behind its header and its colours.
+constexpr std::size_t kFirstBlock = 13 + 3 * 128;
+
+/// A PNG with another size in its header, which has a check sum.
+std::string pngOfSize(std::string png, const std::string& size) {
+    constexpr std::size_t kHeader = 12;
+    constexpr std::size_t kLength = 17;
+    png.replace(16, 8, size);
+    std::uint32_t sum = ~0U;
+    for (std::size_t i = 0; i < kLength; ++i) {
+        sum ^= static_cast<unsigned char>(png[kHeader + i]);
+        for (int bit = 0; bit < 8; ++bit) {
+            sum = sum >> 1 ^ ((sum & 1) != 0 ? 0xEDB88320U : 0);
+        }
+    }
+    for (std::size_t i = 0; i < 4; ++i) {
+        png[kHeader + kLength + i] = static_cast<char>(~sum >> (24 - 8 * i) & 0xFF);
+    }
+    return png;
+}
 
 class Pictures : public testing::Test {
   protected:
@@ -150,9 +173,45 @@ TEST_F(Pictures, AHeaderThatPromisesTooMuch) {
     EXPECT_FALSE(store_.load(file("b.bmp", bmp))->ok()) << "one side is enough";
 }
 
+TEST_F(Pictures, EveryFormatIsBoundedByItsHeader) {
+    const auto saved = [](const char* format) {
+        QByteArray bytes;
+        QBuffer out(&bytes);
+        QImage image(8, 8, QImage::Format_RGB32);
+        image.fill(Qt::darkCyan);
+        EXPECT_TRUE(image.save(&out, format)) << format;
+        return bytes.toStdString();
+    };
+    std::string jpg = saved("JPG");
+    jpg.replace(jpg.find("\xFF\xC0") + 5, 4, "\x75\x30\x75\x30");  // 30,000 by 30,000
+    EXPECT_EQ(problemOf(jpg), Problem::tooLarge);
+    std::string png = saved("PNG");
+    EXPECT_TRUE(
+        store_.load(file("a.png", pngOfSize(png, std::string("\0\0\0\x08\0\0\0\x08", 8))))->ok());
+    png = pngOfSize(png, std::string("\0\0\x75\x30\0\0\x75\x30", 8));
+    EXPECT_EQ(problemOf(png), Problem::tooLarge);
+    // An icon whose list says 8 by 8 and whose picture says more.
+    std::string icon("\0\0\1\0\1\0\x08\x08\0\0\1\0\x20\0", 14);
+    icon += static_cast<char>(png.size());
+    icon += std::string("\0\0\0\x16\0\0\0", 7) + png;
+    EXPECT_FALSE(store_.load(file("a.ico", icon))->ok());
+    std::string bmp = test::bmpBytes(8, 8);
+    bmp.replace(18, 8, "\xFF\xFF\xFF\x7F\xFF\xFF\xFF\x7F");
+    EXPECT_FALSE(store_.load(file("b.bmp", bmp))->ok());
+    bmp.replace(18, 8, std::string("\x30\x75\0\0\xD0\x8A\xFF\xFF", 8));
+    EXPECT_FALSE(store_.load(file("c.bmp", bmp))->ok()) << "lines from top to bottom";
+}
+
+TEST_F(Pictures, AScreenOfNoSizeBoundsNoFrame) {
+    std::string gif = gifBytes(8, 8, {{.colour = 1}});
+    gif.replace(gif.find(',', kFirstBlock) + 5, 4, "\xFF\xFF\xFF\xFF");
+    gif.replace(6, 4, std::string(4, '\0'));
+    EXPECT_FALSE(store_.load(file("a.gif", gif))->ok());
+}
+
 TEST_F(Pictures, AFrameThatPromisesMoreThanItsScreen) {
     std::string gif = gifBytes(8, 8, {{.colour = 1}});
-    const auto frame = gif.find(',');
+    const auto frame = gif.find(',', kFirstBlock);
     ASSERT_NE(frame, std::string::npos);
     gif.replace(frame + 5, 4, "\x30\x75\x30\x75");
     const auto picture = store_.load(file("a.gif", gif));
