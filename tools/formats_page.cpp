@@ -1,9 +1,11 @@
 /// Writes docs/formats.md, the page about the project files, from the record descriptions of the
 /// store. Without an argument the page goes to the standard output, with one into that file.
 
+#include <algorithm>
 #include <fstream>
 #include <iostream>
 #include <string>
+#include <vector>
 
 #include "store/objects.h"
 #include "store/records.h"
@@ -13,6 +15,9 @@ namespace {
 using quorvel::store::allRecords;
 using quorvel::store::elementName;
 using quorvel::store::FieldInfo;
+using quorvel::store::FieldRows;
+using quorvel::store::FieldTest;
+using quorvel::store::FieldTraits;
 using quorvel::store::FieldUse;
 using quorvel::store::kObjectTypes;
 using quorvel::store::ObjectFieldInfo;
@@ -70,6 +75,11 @@ and animations are looked up in `resource/gfx`, sounds and movies in `resource/m
 letter case.
 
 **Runs.** "5 × text 15" is five such fields one after the other, the first at the given offset.
+
+**Holds** says which values a field may have. A number in a field of text is a decimal number, and
+an empty text is 0. "while ... is not 0" tells when the field has an effect: what it holds is kept
+while that is off. The volume of a WAV and that of a movie are two scales; where a field takes both,
+the file's last three letters settle which one it is.
 
 **Reserved** fields have no meaning to the editor. A tool that changes a record keeps them.
 
@@ -165,31 +175,33 @@ void printOverview(std::ostream& out) {
     }
 }
 
-void printRecord(std::ostream& out, const RecordInfo& record) {
-    out << "\n### " << headingOf(record) << "\n\n"
-        << record.about << "\n\n"
-        << record.length << " bytes.\n\n"
-        << "| Offset | Type | Field | Meaning | New value |\n"
-        << "| ---: | --- | --- | --- | --- |\n";
-    for (const FieldInfo& field : record.fields) {
-        out << "| " << field.offset << " | " << typeOf(field) << " | " << nameOf(field) << " | "
-            << cell(field.meaning) << " | " << newValueOf(field) << " |\n";
-    }
-}
-
-/// What a field of an object holds, for somebody who reads its number.
+/// What a field holds, for somebody who reads it.
 std::string_view rangeOf(FieldUse use) {
     switch (use) {
+        case FieldUse::text:
+            return "free text";
+        case FieldUse::place:
+            return "place `x/y` in pixels";
+        case FieldUse::placeOrFile:
+            return "place `x/y` in pixels; in old settings a file in `resource/gfx`";
         case FieldUse::gfxFile:
             return "file in `resource/gfx`";
+        case FieldUse::mapIconFile:
+            return "file in `resource/gfx`, `(None)` for none, `Del` for a removed location";
         case FieldUse::mediaFile:
             return "file in `resource/mmedia`";
-        case FieldUse::decimalText:
-            return "decimal number as text";
+        case FieldUse::soundtrackFile:
+            return "file in `resource/mmedia`, or `(Stop Sndtrk)`, which ends the soundtrack";
+        case FieldUse::logoFile:
+            return "GIF in `resource/gfx`, or movie in `resource/mmedia`";
+        case FieldUse::playerName:
+            return "program in the project folder, without `.exe`";
         case FieldUse::check:
             return "0 or 1";
         case FieldUse::option:
             return "number of an option, from 1";
+        case FieldUse::optionFrom0:
+            return "number of an option, from 0";
         case FieldUse::scene:
             return "scene, 0 for none";
         case FieldUse::item:
@@ -208,25 +220,117 @@ std::string_view rangeOf(FieldUse use) {
             return "0 =, 1 <>, 2 <, 3 >";
         case FieldUse::value:
             return "any number";
+        case FieldUse::pixels:
+            return "pixels";
         case FieldUse::volume:
             return "-4000 to 0, 0 is full";
+        case FieldUse::movieVolume:
+            return "0 to 100; more counts as 100";
+        case FieldUse::mediaVolume:
+            return "-4000 to 0 for a WAV, 0 to 100 for any other file";
         case FieldUse::pan:
             return "-4000 left to 4000 right";
-        case FieldUse::movieVolume:
-            return "0 to 100";
         case FieldUse::seconds:
             return "0 to 65";
+        case FieldUse::objectType:
+            return "type of the object";
+        case FieldUse::count:
+            return "number of records";
+        case FieldUse::version:
+            return "version";
+        case FieldUse::securityCode:
+            return "security code, 0 is off";
+        case FieldUse::byType:
+            return "by the type of the object";
+        case FieldUse::objects:
+            return "objects";
+        case FieldUse::reserved:
+            return "reserved";
     }
     return "";
+}
+
+/// What the cell says of the values; a number in a text is told.
+std::string holdsOf(const FieldTraits& traits, bool isText) {
+    const bool asText = isText && traits.use >= FieldUse::check &&
+                        traits.use < FieldUse::reserved && traits.use != FieldUse::byType;
+    return cell(rangeOf(traits.use)) + (asText ? ", as text" : "");
+}
+
+std::string testOf(const FieldTest& test) {
+    const std::string name = code(test.field);
+    const std::string low = std::to_string(test.low);
+    if (test.low != test.high) {
+        return name + " is " + low + " to " + std::to_string(test.high);
+    }
+    if (test.inside) {
+        return name + " is " + low;
+    }
+    return name + (test.low == 0 ? " is not 0" : " is not " + low);
+}
+
+/// The meaning, followed by the file of a volume and by what switches the field on.
+std::string meaningOf(const FieldTraits& traits, std::string_view meaning) {
+    std::vector<std::string> parts;
+    constexpr std::string_view its = "its ";
+    const bool isIts = !traits.file.empty() && meaning.starts_with(its);
+    std::string first = cell(isIts ? meaning.substr(its.size()) : meaning);
+    if (!traits.file.empty()) {
+        first += (first.empty() ? "of " : isIts ? " of " : "; of ") + code(traits.file);
+    }
+    if (!first.empty()) {
+        parts.push_back(first);
+    }
+    if (!traits.when.either.field.empty()) {
+        std::string test = "while " + testOf(traits.when.either);
+        if (!traits.when.other.field.empty()) {
+            test += " or " + testOf(traits.when.other);
+        }
+        parts.push_back(test);
+    }
+    std::string out;
+    for (const std::string& part : parts) {
+        out += (out.empty() ? "" : "; ") + part;
+    }
+    return out;
+}
+
+void printRecord(std::ostream& out, const RecordInfo& record) {
+    out << "\n### " << headingOf(record) << "\n\n"
+        << record.about << "\n\n"
+        << record.length << " bytes.\n\n"
+        << "| Offset | Type | Field | Holds | Meaning | New value |\n"
+        << "| ---: | --- | --- | --- | --- | --- |\n";
+    for (const FieldInfo& field : record.fields) {
+        const bool isText = field.kind == FieldInfo::Kind::text;
+        out << "| " << field.offset << " | " << typeOf(field) << " | " << nameOf(field) << " | "
+            << holdsOf(field, isText) << " | " << meaningOf(field, field.meaning) << " | "
+            << newValueOf(field) << " |\n";
+    }
+}
+
+/// The field's place in the slot; of rows of equal fields the places in all of them.
+std::string slotFieldOf(const ObjectFieldInfo& field, const FieldRows& rows) {
+    std::string places;
+    for (int row = 0; row < std::max(rows.count, 1); ++row) {
+        places += (row > 0 ? ", " : "") + code((field.isText ? "SlotStr" : "SlotInt") +
+                                               std::to_string(field.number + row * rows.stride));
+    }
+    return places;
 }
 
 void printObjectType(std::ostream& out, ObjectType type) {
     out << "\n### " << static_cast<int>(type) << ": " << quorvel::store::typeName(type) << "\n\n"
         << "| Field | Name | Holds | Meaning | At insertion |\n| --- | --- | --- | --- | --- |\n";
-    for (const ObjectFieldInfo& field : quorvel::store::objectFields(type)) {
-        out << "| " << code((field.isText ? "SlotStr" : "SlotInt") + std::to_string(field.number))
-            << " | " << field.name << " | " << cell(rangeOf(field.use)) << " | "
-            << cell(field.meaning) << " | "
+    FieldRows rows;
+    for (const ObjectFieldInfo& field : quorvel::store::describedFields(type)) {
+        if (field.name.empty()) {
+            rows = field.rows;
+            out << "| | | | *" << cell(field.meaning) << ":* | |\n";
+            continue;
+        }
+        out << "| " << slotFieldOf(field, rows) << " | " << field.name << " | "
+            << holdsOf(field, field.isText) << " | " << meaningOf(field, field.meaning) << " | "
             << (field.isText ? newTextOf(field.newText) : std::to_string(field.newNumber))
             << " |\n";
     }

@@ -88,9 +88,9 @@ store::Scene lighthouse(const SceneArt& art) {
     scene.insert(5, Type::ambient, "DoorLamp.gif");
     scene.insert(6, Type::multiTrigger, 12, 12)
         .number(MultiTrigger::OnlyInScene, 1)
-        .test(MultiTrigger::TestFlag1, {kDoorOpen, 1})
-        .number(MultiTrigger::SetFlagOn1, 1)
-        .set(MultiTrigger::SetFlag1, {kScore, 40});
+        .test(MultiTrigger::trigger(0).TestFlag, {kDoorOpen, 1})
+        .number(MultiTrigger::trigger(0).SetFlagOn, 1)
+        .set(MultiTrigger::trigger(0).SetFlag, {kScore, 40});
     return scene.scene();
 }
 
@@ -135,10 +135,10 @@ store::Scene lampRoom(const SceneArt& art) {
     scene.insert(5, Type::ambient, "LampMoth.gif").number(Ambient::Style, kLooping);
     // Lamp and lever together light the beacon; the lens needs a moment to turn.
     scene.insert(6, Type::flagConjunction, 12, 412)
-        .number(FlagConjunction::SelectedA, 1)
-        .test(FlagConjunction::TestFlagA, {kLampSet, 1})
-        .number(FlagConjunction::SelectedB, 1)
-        .test(FlagConjunction::TestFlagB, {kLeverPulled, 1})
+        .number(FlagConjunction::condition(0).On, 1)
+        .test(FlagConjunction::condition(0).TestFlag, {kLampSet, 1})
+        .number(FlagConjunction::condition(1).On, 1)
+        .test(FlagConjunction::condition(1).TestFlag, {kLeverPulled, 1})
         .text(FlagConjunction::SetFlag, std::to_string(kBeaconLit))
         .text(FlagConjunction::SetValue, "1")
         .text(FlagConjunction::SetAdd, "0");
@@ -149,10 +149,10 @@ store::Scene lampRoom(const SceneArt& art) {
         .number(Delay::ForceWait, 1);
     scene.insert(8, Type::multiTrigger, 640, 412)
         .number(MultiTrigger::OnlyInScene, 1)
-        .test(MultiTrigger::TestFlag1, {kBeaconLit, 2})
-        .number(MultiTrigger::SetFlagOn1, 1)
-        .set(MultiTrigger::SetFlag1, {kScore, kMaxScore})
-        .number(MultiTrigger::TargetScene1, kBoatsHome);
+        .test(MultiTrigger::trigger(0).TestFlag, {kBeaconLit, 2})
+        .number(MultiTrigger::trigger(0).SetFlagOn, 1)
+        .set(MultiTrigger::trigger(0).SetFlag, {kScore, kMaxScore})
+        .number(MultiTrigger::trigger(0).TargetScene, kBoatsHome);
     return scene.scene();
 }
 

@@ -116,14 +116,14 @@ store::Scene lane(const SceneArt& art) {
         .text(Responder::Media, "Chime.wav");
     // Lamp, oil and matches together are worth a score, once.
     scene.insert(10, Type::flagConjunction, 66, 415)
-        .number(FlagConjunction::SelectedA, 1)
-        .test(FlagConjunction::TestFlagA, {kLampTaken, 1})
-        .number(FlagConjunction::SelectedB, 1)
-        .test(FlagConjunction::TestFlagB, {kOilTaken, 1})
-        .number(FlagConjunction::SelectedC, 1)
-        .test(FlagConjunction::TestFlagC, {kMatchesTaken, 1})
-        .number(FlagConjunction::SelectedD, 1)
-        .test(FlagConjunction::TestFlagD, {kScore, 20, Compare::less})
+        .number(FlagConjunction::condition(0).On, 1)
+        .test(FlagConjunction::condition(0).TestFlag, {kLampTaken, 1})
+        .number(FlagConjunction::condition(1).On, 1)
+        .test(FlagConjunction::condition(1).TestFlag, {kOilTaken, 1})
+        .number(FlagConjunction::condition(2).On, 1)
+        .test(FlagConjunction::condition(2).TestFlag, {kMatchesTaken, 1})
+        .number(FlagConjunction::condition(3).On, 1)
+        .test(FlagConjunction::condition(3).TestFlag, {kScore, 20, Compare::less})
         .text(FlagConjunction::SetFlag, std::to_string(kScore))
         .text(FlagConjunction::SetValue, "20")
         .text(FlagConjunction::SetAdd, "0");
@@ -203,9 +203,9 @@ store::Scene attic(const SceneArt& art) {
         .number(Reactor::OncePerView, 1);
     // The first thing found opens the score.
     scene.insert(5, Type::multiTrigger, 12, 12)
-        .test(MultiTrigger::TestFlag1, {kLampTaken, 1})
-        .number(MultiTrigger::SetFlagOn1, 1)
-        .set(MultiTrigger::SetFlag1, {kScore, 10});
+        .test(MultiTrigger::trigger(0).TestFlag, {kLampTaken, 1})
+        .number(MultiTrigger::trigger(0).SetFlagOn, 1)
+        .set(MultiTrigger::trigger(0).SetFlag, {kScore, 10});
     return scene.scene();
 }
 

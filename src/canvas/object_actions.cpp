@@ -107,9 +107,11 @@ void ObjectActions::prepareObjectJumps(const store::ObjectSlot& slot, PopupMenu 
     } else if (menu == PopupMenu::responder) {
         prepareJump(menu, PopupAction::jump, number(slot, Responder::TargetScene));
     } else if (menu == PopupMenu::multiTrigger) {
-        prepareJump(menu, PopupAction::jump, number(slot, MultiTrigger::TargetScene1));
-        prepareJump(menu, PopupAction::jumpSecond, number(slot, MultiTrigger::TargetScene2));
-        prepareJump(menu, PopupAction::jumpThird, number(slot, MultiTrigger::TargetScene3));
+        prepareJump(menu, PopupAction::jump, number(slot, MultiTrigger::trigger(0).TargetScene));
+        prepareJump(menu, PopupAction::jumpSecond,
+                    number(slot, MultiTrigger::trigger(1).TargetScene));
+        prepareJump(menu, PopupAction::jumpThird,
+                    number(slot, MultiTrigger::trigger(2).TargetScene));
     }
 }
 

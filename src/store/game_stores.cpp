@@ -84,7 +84,7 @@ void SaveLocation(Project& project, int number, const LocationRecord& form) {
     LocationRecord record = form;
     record.LocationName = form.LocationName.text();
     if (form.LocationImage.text().empty()) {
-        record.LocationImage = "(None)";
+        record.LocationImage = kNoIcon;
     }
     record.LocationInUse = 1;
     record.MapImage = mapImageOf(project, number);
@@ -105,7 +105,7 @@ void AddBlankLocation(Project& project, int number) {
 
 void RemoveLocation(Project& project, int number) {
     LocationRecord record = project.locationFile.read(number);
-    record.LocationImage = "Del";
+    record.LocationImage = kRemovedIcon;
     record.LocationInUse = 0;
     project.locationFile.write(number, record);
 }

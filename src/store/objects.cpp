@@ -1,57 +1,61 @@
 #include "store/objects.h"
 
+#include <algorithm>
 #include <array>
+#include <deque>
+#include <string>
+#include <vector>
 
 namespace quorvel::store {
 namespace {
 
 // clang-format off
-constexpr std::array kAmbientFields = {
+constexpr std::array kAmbientList = {
 #include "store/defs/objects/begin_table.h"
 #include "store/defs/objects/ambient.def"
 #include "store/defs/objects/end.h"
 };
-constexpr std::array kHotSpotFields = {
+constexpr std::array kHotSpotList = {
 #include "store/defs/objects/begin_table.h"
 #include "store/defs/objects/hotspot.def"
 #include "store/defs/objects/end.h"
 };
-constexpr std::array kGoodieFields = {
+constexpr std::array kGoodieList = {
 #include "store/defs/objects/begin_table.h"
 #include "store/defs/objects/goodie.def"
 #include "store/defs/objects/end.h"
 };
-constexpr std::array kSwitchFields = {
+constexpr std::array kSwitchList = {
 #include "store/defs/objects/begin_table.h"
 #include "store/defs/objects/switch.def"
 #include "store/defs/objects/end.h"
 };
-constexpr std::array kReactorFields = {
+constexpr std::array kReactorList = {
 #include "store/defs/objects/begin_table.h"
 #include "store/defs/objects/reactor.def"
 #include "store/defs/objects/end.h"
 };
-constexpr std::array kResponderFields = {
+constexpr std::array kResponderList = {
 #include "store/defs/objects/begin_table.h"
 #include "store/defs/objects/responder.def"
 #include "store/defs/objects/end.h"
 };
-constexpr std::array kDelayFields = {
+constexpr std::array kDelayList = {
 #include "store/defs/objects/begin_table.h"
 #include "store/defs/objects/delay.def"
 #include "store/defs/objects/end.h"
 };
-constexpr std::array kMultiTriggerFields = {
+constexpr std::array kMultiTriggerList = {
 #include "store/defs/objects/begin_table.h"
 #include "store/defs/objects/multi_trigger.def"
 #include "store/defs/objects/end.h"
 };
-constexpr std::array kConversationFields = {
+constexpr std::array kConversationList = {
 #include "store/defs/objects/begin_table.h"
 #include "store/defs/objects/conversation.def"
 #include "store/defs/objects/end.h"
 };
-constexpr std::array kFlagConjunctionFields = {
+constexpr std::array kFlagConjunctionList = {
 #include "store/defs/objects/begin_table.h"
 #include "store/defs/objects/flag_conjunction.def"
 #include "store/defs/objects/end.h"
@@ -60,26 +64,55 @@ constexpr std::array kFlagConjunctionFields = {
 
 struct TypeRow {
     std::string_view name;
-    std::span<const ObjectFieldInfo> fields;
+    std::span<const ObjectFieldInfo> list;
 };
 
 /// Row n is type n.
 constexpr std::array<TypeRow, kObjectTypes> kTypes = {{
-    {"Ambient", kAmbientFields},
-    {"HotSpot", kHotSpotFields},
-    {"Goodie", kGoodieFields},
-    {"Switch", kSwitchFields},
-    {"Reactor", kReactorFields},
-    {"Responder", kResponderFields},
-    {"Delay", kDelayFields},
-    {"Multi-Trigger", kMultiTriggerFields},
-    {"Conversation", kConversationFields},
-    {"Flag Conjunction", kFlagConjunctionFields},
+    {"Ambient", kAmbientList},
+    {"HotSpot", kHotSpotList},
+    {"Goodie", kGoodieList},
+    {"Switch", kSwitchList},
+    {"Reactor", kReactorList},
+    {"Responder", kResponderList},
+    {"Delay", kDelayList},
+    {"Multi-Trigger", kMultiTriggerList},
+    {"Conversation", kConversationList},
+    {"Flag Conjunction", kFlagConjunctionList},
 }};
 
 const TypeRow* rowOf(ObjectType type) {
     return isKnownType(type) ? &kTypes[static_cast<std::size_t>(type)] : nullptr;
 }
+
+/// The fields of a list one by one.
+class FieldTable {
+  public:
+    explicit FieldTable(std::span<const ObjectFieldInfo> list) {
+        const auto rows = std::ranges::find(list, std::string_view(), &ObjectFieldInfo::name);
+        fields_.assign(list.begin(), rows);
+        if (rows != list.end()) {
+            for (int row = 0; row < rows->rows.count; ++row) {
+                addRow(rows->rows, row, {rows + 1, list.end()});
+            }
+        }
+    }
+    [[nodiscard]] std::span<const ObjectFieldInfo> fields() const { return fields_; }
+
+  private:
+    void addRow(const FieldRows& rows, int row, std::span<const ObjectFieldInfo> list) {
+        for (ObjectFieldInfo field : list) {
+            names_.push_back(std::string(field.name) + static_cast<char>(rows.label + row));
+            field.name = names_.back();
+            field.number += row * rows.stride;
+            field.row = row + 1;
+            fields_.push_back(field);
+        }
+    }
+
+    std::deque<std::string> names_;  // none of them ever moves
+    std::vector<ObjectFieldInfo> fields_;
+};
 
 }  // namespace
 
@@ -91,9 +124,22 @@ bool hasPicture(ObjectType type) {
     return type >= ObjectType::ambient && type <= ObjectType::reactor;
 }
 
-std::span<const ObjectFieldInfo> objectFields(ObjectType type) {
+std::span<const ObjectFieldInfo> describedFields(ObjectType type) {
     const TypeRow* row = rowOf(type);
-    return row == nullptr ? std::span<const ObjectFieldInfo>() : row->fields;
+    return row == nullptr ? std::span<const ObjectFieldInfo>() : row->list;
+}
+
+std::span<const ObjectFieldInfo> objectFields(ObjectType type) {
+    static const std::vector<FieldTable> tables = [] {
+        std::vector<FieldTable> all;
+        all.reserve(kTypes.size());  // a name that is kept inside its string moves with the table
+        for (const TypeRow& row : kTypes) {
+            all.emplace_back(row.list);
+        }
+        return all;
+    }();
+    return isKnownType(type) ? tables[static_cast<std::size_t>(type)].fields()
+                             : std::span<const ObjectFieldInfo>();
 }
 
 std::string_view typeName(ObjectType type) {

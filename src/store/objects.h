@@ -2,7 +2,8 @@
 ///
 /// Each type is described once, in its list under store/defs/objects. From the list come the names
 /// here (`HotSpot::Pointer` rather than a bare 4) and the table of `objectFields`, from which the
-/// values of a fresh object are taken.
+/// values of a fresh object are taken. Rows of equal fields are named by their index, from 0:
+/// `MultiTrigger::trigger(2).TargetScene`.
 #pragma once
 
 #include <cstdint>
@@ -33,17 +34,19 @@ inline constexpr int kObjectTypes = 10;
 /// A number or a text of a slot.
 struct NumberField {
     int number;  ///< k of `SlotInt`k
+    FieldUse use = FieldUse::value;
 };
 struct WordField {
     int number;  ///< k of `SlotStr`k
+    FieldUse use = FieldUse::text;
 };
 
 // Fields that all types have.
-inline constexpr NumberField kType{1};
-inline constexpr NumberField kLeft{2};  ///< canvas pixels
-inline constexpr NumberField kTop{3};   ///< canvas pixels
-/// File in resource/gfx, of the types that have a picture.
-inline constexpr WordField kPicture{1};
+inline constexpr NumberField kType{1, FieldUse::objectType};
+inline constexpr NumberField kLeft{2, FieldUse::pixels};  ///< on the canvas
+inline constexpr NumberField kTop{3, FieldUse::pixels};   ///< on the canvas
+/// Of the types that have a picture.
+inline constexpr WordField kPicture{1, FieldUse::gfxFile};
 
 // clang-format off
 struct Ambient {
@@ -100,41 +103,31 @@ struct FlagConjunction {
 };
 // clang-format on
 
-/// What a field holds, which settles the values it may have.
-enum class FieldUse : std::uint8_t {
-    gfxFile,      ///< file in resource/gfx
-    mediaFile,    ///< file in resource/mmedia
-    decimalText,  ///< a number as text
-    check,        ///< 0 or 1
-    option,       ///< index of an option, from 1
-    scene,        ///< number of a scene, 0 for none
-    item,
-    location,
-    card,
-    pointer,      ///< index into the mouse pointers
-    channel,      ///< 0 to 15
-    flag,         ///< 1 to 255
-    comparison,   ///< 0 =, 1 <>, 2 <, 3 >
-    value,        ///< any number
-    volume,       ///< -4000 to 0
-    pan,          ///< -4000 to 4000
-    movieVolume,  ///< 0 to 100
-    seconds,      ///< 0 to 65
+/// Rows of equal fields: how many, and how many numbers lie from one to the next.
+struct FieldRows {
+    int count = 0;
+    int stride = 0;
+    char label = '1';  ///< what the names of the first row end in
 };
 
 /// One row of a type's list.
-struct ObjectFieldInfo {
+struct ObjectFieldInfo : FieldTraits {
     std::string_view name;
-    bool isText;
-    int number;  ///< k of `SlotStr`k or `SlotInt`k
-    FieldUse use;
+    bool isText = false;
+    int number = 0;  ///< k of `SlotStr`k or `SlotInt`k
     std::string_view newText;
-    std::int16_t newNumber;
+    std::int16_t newNumber = 0;
     std::string_view meaning;
+    FieldRows rows;  ///< of an entry without a name: all that follow it are one of those rows
+    int row = 0;     ///< which of them the field is in, from 1; 0 in none
 };
 
-/// The fields of a type beyond the common ones; none for a free slot and for an unknown type.
+/// The fields of a type beyond the common ones, one by one; none for a free slot and for an unknown
+/// type. In rows of equal fields a name bears the label of its row: `TargetScene2`.
 std::span<const ObjectFieldInfo> objectFields(ObjectType type);
+
+/// The same as the type's list says it: rows of equal fields are said once.
+std::span<const ObjectFieldInfo> describedFields(ObjectType type);
 
 inline std::int16_t number(const ObjectSlot& slot, NumberField field) {
     return slot.SlotInt(field.number);

@@ -17,17 +17,15 @@ std::vector<ListEntry> readNames(RecordFile<Record>& file, Name name) {
     return entries;
 }
 
-/// True when record `number` stands for a location: it is not removed, and not the first record of
-/// a map that has no location 1.
-bool isLocation(int number, const LocationRecord& record) {
-    const std::string image = record.LocationImage.text();
-    return image != "Del" && (number != 1 || !image.empty());
-}
-
 }  // namespace
 
 std::string listText(int number, const std::string& name) {
     return std::to_string(number) + " (" + name + ")";
+}
+
+bool isLocation(int number, const LocationRecord& record) {
+    const std::string image = record.LocationImage.text();
+    return image != kRemovedIcon && (number != 1 || !image.empty());
 }
 
 std::vector<ListEntry> readSceneNames(RecordFile<SceneRecord>& file) {
@@ -52,7 +50,7 @@ void readLocations(RecordFile<LocationRecord>& file, ProjectLists& lists) {
             const LocationRecord& record = records[i];
             const bool there = isLocation(first + i, record);
             const std::string image = record.LocationImage.text();
-            lists.mapIcons.push_back({first + i, image == "(None)" || !there ? "" : image,
+            lists.mapIcons.push_back({first + i, image == kNoIcon || !there ? "" : image,
                                       record.LocationX, record.LocationY, there});
             if (there) {
                 lists.locations.push_back(

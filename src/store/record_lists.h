@@ -41,6 +41,10 @@ struct ProjectLists {
     std::string MapImage;  ///< picture of the map, empty for none
 };
 
+/// True when record `number` stands for a location: it is not removed, and not the first record of
+/// a map that has no location 1.
+bool isLocation(int number, const LocationRecord& record);
+
 std::vector<ListEntry> readSceneNames(RecordFile<SceneRecord>& file);
 std::vector<ListEntry> readItemNames(RecordFile<ItemRecord>& file);
 std::vector<ListEntry> readCardNames(RecordFile<CueCardRecord>& file);

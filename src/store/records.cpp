@@ -7,42 +7,32 @@
 namespace quorvel::store {
 namespace {
 
-FieldInfo textRow(std::string_view name, std::size_t offset, int count, int width,
-                  std::string_view meaning, std::initializer_list<std::string_view> values) {
-    FieldInfo info{};
-    info.name = name;
-    info.kind = FieldInfo::Kind::text;
-    info.offset = static_cast<int>(offset);
-    info.count = count;
-    info.width = width;
-    info.meaning = meaning;
+FieldInfo row(const FieldTraits& traits, FieldInfo::Kind kind, std::string_view name,
+              std::size_t offset, int count, int width, std::string_view meaning) {
+    return {traits, name, kind, static_cast<int>(offset), count, width, meaning, {}, 0, 0};
+}
+
+FieldInfo textRow(const FieldTraits& traits, std::string_view name, std::size_t offset, int count,
+                  int width, std::string_view meaning,
+                  std::initializer_list<std::string_view> values) {
+    FieldInfo info = row(traits, FieldInfo::Kind::text, name, offset, count, width, meaning);
     std::copy(values.begin(), values.end(), info.newTexts.begin());
     info.newTextCount = static_cast<int>(values.size());
     return info;
 }
 
-FieldInfo intRow(std::string_view name, std::size_t offset, int count, std::string_view meaning,
-                 std::initializer_list<std::int16_t> values) {
-    FieldInfo info{};
-    info.name = name;
-    info.kind = FieldInfo::Kind::number;
-    info.offset = static_cast<int>(offset);
-    info.count = count;
-    info.width = 2;
-    info.meaning = meaning;
-    info.newNumber = *values.begin();
+FieldInfo intRow(const FieldTraits& traits, std::string_view name, std::size_t offset, int count,
+                 std::string_view meaning, std::int16_t value) {
+    constexpr int width = sizeof(IntField);
+    FieldInfo info = row(traits, FieldInfo::Kind::number, name, offset, count, width, meaning);
+    info.newNumber = value;
     return info;
 }
 
-FieldInfo slotRow(std::string_view name, std::size_t offset, int count, std::string_view meaning) {
-    FieldInfo info{};
-    info.name = name;
-    info.kind = FieldInfo::Kind::slots;
-    info.offset = static_cast<int>(offset);
-    info.count = count;
-    info.width = sizeof(ObjectSlotRecord);
-    info.meaning = meaning;
-    return info;
+FieldInfo slotRow(const FieldTraits& traits, std::string_view name, std::size_t offset, int count,
+                  std::string_view meaning) {
+    constexpr int width = sizeof(ObjectSlotRecord);
+    return row(traits, FieldInfo::Kind::slots, name, offset, count, width, meaning);
 }
 
 std::string_view newText(const FieldInfo& field, int element) {
@@ -234,7 +224,7 @@ std::string elementName(const FieldInfo& field, int element) {
     // A run that does not begin at 1 says so in its name: SlotInt4To29.
     const auto digits = field.name.find_first_of("0123456789");
     const auto to = field.name.find("To", digits == std::string_view::npos ? 0 : digits);
-    int first = 1;
+    int first = field.first;
     std::string_view stem = field.name;
     if (digits != std::string_view::npos && to != std::string_view::npos) {
         std::from_chars(field.name.data() + digits, field.name.data() + to, first);

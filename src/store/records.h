@@ -15,6 +15,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include "store/field_use.h"
 #include "store/fields.h"
 
 namespace quorvel::store {
@@ -83,7 +84,7 @@ static_assert(sizeof(SkinRecord) == 612);
 inline constexpr int kSlotCount = 20;
 
 /// One field of a record, or a run of equal fields.
-struct FieldInfo {
+struct FieldInfo : FieldTraits {
     enum class Kind : std::uint8_t { text, number, slots };
 
     std::string_view name;

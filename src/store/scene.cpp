@@ -26,36 +26,25 @@ void forEachHeaderField(Bytes bytes, OnText onText, OnNumber onNumber) {
 }
 
 /// Calls `visit(record field, link field)` for the fields of the four edge links; works on const
-/// and plain records.
-template <class Record, class Links, class Visit>
-void forEachLinkField(Record& r, Links& s, Visit visit) {
-    visit(r.LinkUpPointer, s.LinkUp.pointer);
-    visit(r.LinkUpTarget, s.LinkUp.target);
-    visit(r.LinkUpTop, s.LinkUp.top);
-    visit(r.LinkUpLeft, s.LinkUp.left);
-    visit(r.LinkUpWidth, s.LinkUp.width);
-    visit(r.LinkUpHeight, s.LinkUp.height);
-    visit(r.LinkDownPointer, s.LinkDown.pointer);
-    visit(r.LinkDownTarget, s.LinkDown.target);
-    visit(r.LinkDownTop, s.LinkDown.top);
-    visit(r.LinkDownLeft, s.LinkDown.left);
-    visit(r.LinkDownWidth, s.LinkDown.width);
-    visit(r.LinkDownHeight, s.LinkDown.height);
-    visit(r.LinkLeftPointer, s.LinkLeft.pointer);
-    visit(r.LinkLeftTarget, s.LinkLeft.target);
-    visit(r.LinkLeftTop, s.LinkLeft.top);
-    visit(r.LinkLeftLeft, s.LinkLeft.left);
-    visit(r.LinkLeftWidth, s.LinkLeft.width);
-    visit(r.LinkLeftHeight, s.LinkLeft.height);
-    visit(r.LinkRightPointer, s.LinkRight.pointer);
-    visit(r.LinkRightTarget, s.LinkRight.target);
-    visit(r.LinkRightTop, s.LinkRight.top);
-    visit(r.LinkRightLeft, s.LinkRight.left);
-    visit(r.LinkRightWidth, s.LinkRight.width);
-    visit(r.LinkRightHeight, s.LinkRight.height);
+/// and plain scenes.
+template <class Field, class Bytes, class Scene, class Visit>
+void forEachLinkField(Bytes bytes, Scene& scene, Visit visit) {
+    const auto at = [bytes](std::size_t offset) -> Field& {
+        return *reinterpret_cast<Field*>(bytes.data() + offset);
+    };
+    for (const LinkSide side : kLinkSides) {
+        const LinkOffsets offsets = linkOffsets(side);
+        auto& link = scene.link(side);
+        visit(at(offsets.pointer), link.pointer);
+        visit(at(offsets.target), link.target);
+        visit(at(offsets.top), link.top);
+        visit(at(offsets.left), link.left);
+        visit(at(offsets.width), link.width);
+        visit(at(offsets.height), link.height);
+    }
 }
 
-/// The same for the fields of a slot.
+/// The same for the fields of a slot and its record.
 template <class Record, class Slot, class Visit>
 void forEachSlotField(Record& record, Slot& slot, Visit visit) {
     visit(record.SlotInt1, slot.SlotInt(1));
@@ -84,6 +73,21 @@ struct GiveField {
 };
 
 }  // namespace
+
+LinkOffsets linkOffsets(LinkSide side) {
+    constexpr std::size_t way = offsetof(SceneRecord, LinkUpPointer);
+    constexpr std::size_t area = offsetof(SceneRecord, LinkUpTop);
+    constexpr std::size_t number = sizeof(IntField);
+    static_assert(way + 3 * 2 * number == offsetof(SceneRecord, LinkRightPointer));
+    static_assert(area + 3 * 4 * number == offsetof(SceneRecord, LinkRightTop));
+    constexpr std::array order = {LinkSide::up, LinkSide::down, LinkSide::left, LinkSide::right};
+    const auto place =
+        static_cast<std::size_t>(std::ranges::find(order, side) - order.begin()) % order.size();
+    const std::size_t wayHere = way + place * 2 * number;
+    const std::size_t areaHere = area + place * 4 * number;
+    return {wayHere,           wayHere + number,      areaHere,
+            areaHere + number, areaHere + 2 * number, areaHere + 3 * number};
+}
 
 EdgeLink defaultLink(LinkSide side) {
     static const Scene fresh = [] {
@@ -136,7 +140,7 @@ void Scene::take(const SceneRecord& record) {
         [this](auto at, std::size_t i) {
             HeaderInts[i] = *reinterpret_cast<const IntField*>(at.data());
         });
-    forEachLinkField(record, *this, TakeField{});
+    forEachLinkField<const IntField>(bytesOf(record), *this, TakeField{});
     for (std::size_t i = 0; i < slots_.size(); ++i) {
         forEachSlotField(record.Slots[i], slots_[i], TakeField{});
     }
@@ -150,7 +154,7 @@ SceneRecord Scene::toRecord() const {
             *reinterpret_cast<IntField*>(at.data()) = HeaderInts[i];
         });
     record.SecurityCode = 0;
-    forEachLinkField(record, *this, GiveField{});
+    forEachLinkField<IntField>(bytesOf(record), *this, GiveField{});
     for (std::size_t i = 0; i < slots_.size(); ++i) {
         forEachSlotField(record.Slots[i], slots_[i], GiveField{});
     }

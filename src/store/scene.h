@@ -66,6 +66,19 @@ enum class LinkSide { left = 1, up = 2, right = 3, down = 4 };
 inline constexpr std::array kLinkSides = {LinkSide::left, LinkSide::up, LinkSide::right,
                                           LinkSide::down};
 
+/// Where an edge link lies in `SceneRecord`: bytes from its start.
+struct LinkOffsets {
+    std::size_t pointer;
+    std::size_t target;
+    std::size_t top;
+    std::size_t left;
+    std::size_t width;
+    std::size_t height;
+};
+/// Of the four links the record holds the ways of all first, then the areas of all, each in the
+/// order up, down, left, right.
+LinkOffsets linkOffsets(LinkSide side);
+
 /// The default place of an edge link in a new scene; pointer and target are 0.
 EdgeLink defaultLink(LinkSide side);
 
@@ -76,6 +89,7 @@ class ObjectSlot {
   public:
     static constexpr int kInts = 36;
     static constexpr int kStrs = 9;
+    static constexpr int kStrWidth = 15;  ///< characters of a text that the file takes
 
     [[nodiscard]] std::int16_t SlotInt(int field) const { return ints_.at(index(field)); }
     std::int16_t& SlotInt(int field) { return ints_.at(index(field)); }

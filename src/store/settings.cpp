@@ -7,57 +7,28 @@ namespace {
 
 using Settings = GameSettingsRecord;
 
-template <class... Fields>
-void copyFields(Settings& to, const Settings& from, Fields... fields) {
-    ((to.*fields = from.*fields), ...);
+/// All bytes of a field, of a run those of all its elements.
+std::span<char> bytesOfField(Settings& record, const FieldInfo& field) {
+    return bytesOf(record).subspan(static_cast<std::size_t>(field.offset),
+                                   static_cast<std::size_t>(field.count * field.width));
 }
 
-void copyGenSettings(Settings& to, const Settings& from) {
-    copyFields(
-        to, from, &Settings::GameTitle, &Settings::ClickSoundFile, &Settings::ClickSoundVolume,
-        &Settings::ClickSoundPan, &Settings::InventoryFullSoundFile,
-        &Settings::InventoryFullSoundVolume, &Settings::InventoryFullSoundPan,
-        &Settings::WrongTargetSoundFile, &Settings::WrongTargetSoundVolume,
-        &Settings::WrongTargetSoundPan, &Settings::NagScreenOn, &Settings::NagImage,
-        &Settings::DebugWindowOn, &Settings::PlayerExeName, &Settings::PlayFromCd,
-        &Settings::DiscLabel, &Settings::DiscFromScene, &Settings::DiscToScene,
-        &Settings::MenuMusicVolume, &Settings::MenuMusicPan, &Settings::ButtonOverSoundVolume,
-        &Settings::ButtonOverSoundPan, &Settings::MenuMusicFile, &Settings::ButtonOverSoundFile,
-        &Settings::LogoSuppressed, &Settings::ChangeResolution);
+/// The fields of the slice that its form edits.
+void copySlice(SettingsSlice slice, Settings& to, Settings from) {
+    for (const FieldInfo& field : fieldsOf<Settings>()) {
+        if (field.slice == slice && field.use != FieldUse::reserved) {
+            std::ranges::copy(bytesOfField(from, field), bytesOfField(to, field).begin());
+        }
+    }
 }
 
-void copyEdButtons(Settings& to, const Settings& from) {
-    copyFields(to, from, &Settings::MenuButtonOn, &Settings::ItemToolTips, &Settings::MenuButtonPos,
-               &Settings::GameButtonOn, &Settings::LayoutPos5, &Settings::LayoutPos6,
-               &Settings::LayoutPos7, &Settings::LayoutPos8, &Settings::LayoutPos9,
-               &Settings::LayoutPos10, &Settings::SaveLoadOn, &Settings::InventoryBarOn,
-               &Settings::ScoreOn, &Settings::ScoreFlag, &Settings::MaxScore,
-               &Settings::CloseupSizeSmall, &Settings::MovieSize, &Settings::CloseupMode,
-               &Settings::CustomLayoutFlag);
-}
-
-void copyGameIntro(Settings& to, const Settings& from) {
-    copyFields(to, from, &Settings::IntroOnNewGame, &Settings::IntroOnStart, &Settings::IntroLarge,
-               &Settings::IntroMovie, &Settings::IntroVolume);
-}
-
-void copySlice(SettingsSlice slice, Settings& to, const Settings& from) {
-    switch (slice) {
-        case SettingsSlice::genSettings:
-            copyGenSettings(to, from);
-            break;
-        case SettingsSlice::edButtons:
-            copyEdButtons(to, from);
-            break;
-        case SettingsSlice::edMousePoint:
-            copyFields(to, from, &Settings::GamePointer);
-            break;
-        case SettingsSlice::openCredits:
-            copyFields(to, from, &Settings::OpeningLogo, &Settings::CreditsScene);
-            break;
-        case SettingsSlice::gameIntro:
-            copyGameIntro(to, from);
-            break;
+/// The fields of the slice that have no meaning: blank texts, numbers 0.
+void clearReserved(SettingsSlice slice, Settings& record) {
+    for (const FieldInfo& field : fieldsOf<Settings>()) {
+        if (field.slice == slice && field.use == FieldUse::reserved) {
+            const char empty = field.kind == FieldInfo::Kind::text ? ' ' : '\0';
+            std::ranges::fill(bytesOfField(record, field), empty);
+        }
     }
 }
 
@@ -67,24 +38,12 @@ bool isSlice(SettingsSlice slice) {
 
 /// What a save sets beside the fields of the form.
 void applySaveRules(SettingsSlice slice, Settings& record) {
+    clearReserved(slice, record);
     if (slice == SettingsSlice::edButtons) {
         record.ScoreFlag = boundedScoreFlag(record.ScoreFlag);
         record.CustomLayoutFlag = 1;
-        record.Reserved363.fill(IntField{});
-        record.Reserved409 = 0;
-        record.Reserved426 = 0;
-        record.Reserved443 = 0;
-        record.Reserved483 = "";
-    } else if (slice == SettingsSlice::edMousePoint) {
-        for (auto& text : record.Reserved723) {
-            text = "";
-        }
     } else if (slice == SettingsSlice::gameIntro) {
         record.IntroLarge = 1;
-        for (auto& text : record.Reserved876) {
-            text = "";
-        }
-        record.Reserved906 = 0;
     }
 }
 
@@ -96,6 +55,9 @@ std::int16_t boundedScoreFlag(int typed) {
 
 GameSettingsRecord LoadSettings(Project& project, SettingsSlice slice) {
     Settings form{};
+    if (!isSlice(slice)) {
+        return form;
+    }
     copySlice(slice, form, project.settingsFile.read(1));
     if (slice == SettingsSlice::edButtons && form.ScoreFlag == 0) {
         form.ScoreFlag = 255;

@@ -1,18 +1,10 @@
 /// The game settings, read and written in slices: a save of one slice leaves the others alone.
+/// Which field belongs to which slice stands in the list of the record's fields.
 #pragma once
 
 #include "store/project.h"
 
 namespace quorvel::store {
-
-/// The forms that edit the settings, each with its own slice of the record.
-enum class SettingsSlice {
-    genSettings = 1,
-    edButtons = 2,
-    edMousePoint = 3,
-    openCredits = 4,
-    gameIntro = 5,
-};
 
 /// The settings as a form shows them: a score flag of 0 is 255, an intro volume above 100 is 100.
 /// Only the fields of the slice are filled, the rest is zero.

@@ -104,7 +104,10 @@ class SampleGame : public testing::Test {
                 return inRange(what, value, 1, 255);
             case store::FieldUse::comparison:
                 return inRange(what, value, 0, 3);
+            case store::FieldUse::optionFrom0:
+                return inRange(what, value, 0, 1);
             case store::FieldUse::volume:
+            case store::FieldUse::mediaVolume:
                 return inRange(what, value, -4000, 0);
             case store::FieldUse::pan:
                 return inRange(what, value, -4000, 4000);

@@ -9,6 +9,7 @@ using store::ObjectSlot;
 int Dice::number(FieldUse use) {
     switch (use) {
         case FieldUse::check:
+        case FieldUse::optionFrom0:
             return pick({0, 1});
         case FieldUse::option:
             return pick({0, 1, 2, 9, -3});
@@ -26,6 +27,7 @@ int Dice::number(FieldUse use) {
         case FieldUse::flag:
             return pick({1, 100, 255, 0, 256, -5});
         case FieldUse::volume:
+        case FieldUse::mediaVolume:
             return pick({0, -1, -4000, -4001, 60, 500});
         case FieldUse::pan:
             return pick({0, -4000, 4000, 9000, -32768});
@@ -42,6 +44,7 @@ const char* Dice::text(FieldUse use) {
         case FieldUse::gfxFile:
             return pick<Name>({"", "one.gif", "gone.gif", "odd name"});
         case FieldUse::mediaFile:
+        case FieldUse::soundtrackFile:
             return pick<Name>({"", "a.wav", "gone.WAV", "d.avi"});
         default:
             return pick<Name>({"", "0", "5", "10", "77", "32767", "x"});

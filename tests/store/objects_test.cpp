@@ -57,10 +57,6 @@ TEST(Objects, EachFieldOfATypeIsDescribedOnceAndWithinItsUse) {
             EXPECT_TRUE(names.insert(field.name).second) << field.name;
             EXPECT_GE(field.number, field.isText ? 1 : 4);
             EXPECT_LE(field.number, field.isText ? 7 : 29);
-            const bool textUse = field.use == FieldUse::gfxFile ||
-                                 field.use == FieldUse::mediaFile ||
-                                 field.use == FieldUse::decimalText;
-            EXPECT_EQ(textUse, field.isText) << field.name;
         }
     }
 }
@@ -69,11 +65,59 @@ TEST(Objects, NamesStandForTheFieldsOfTheFile) {
     EXPECT_EQ(HotSpot::Pointer.number, 4);
     EXPECT_EQ(HotSpot::QuickSpot.number, 29);
     EXPECT_EQ(Responder::TargetScene.number, 15);
-    EXPECT_EQ(MultiTrigger::TargetScene1.number, 12);
-    EXPECT_EQ(MultiTrigger::TargetScene2.number, 20);
-    EXPECT_EQ(MultiTrigger::TargetScene3.number, 28);
-    EXPECT_EQ(FlagConjunction::TestValueF.number, 28);
+    EXPECT_EQ(FlagConjunction::SetFlag.number, 1);
     EXPECT_EQ(Goodie::FailureChannel.number, 25);
+}
+
+TEST(Objects, NamesKnowWhatTheirFieldsHold) {
+    EXPECT_EQ(HotSpot::Pointer.use, FieldUse::pointer);
+    EXPECT_EQ(Goodie::SuccessVolume.use, FieldUse::mediaVolume);
+    EXPECT_EQ(FlagConjunction::SetFlag.use, FieldUse::flag);
+    EXPECT_EQ(FlagConjunction::condition(5).TestFlag.use, FieldUse::flag);
+    EXPECT_EQ(MultiTrigger::trigger(2).TargetScene.use, FieldUse::scene);
+    EXPECT_EQ(kPicture.use, FieldUse::gfxFile);
+}
+
+TEST(Objects, RowsOfEqualFieldsLieOneBehindTheOther) {
+    static_assert(MultiTrigger::kTriggers == 3);
+    static_assert(FlagConjunction::kConditions == 6);
+    for (int t = 0; t < MultiTrigger::kTriggers; ++t) {
+        const MultiTrigger::Trigger trigger = MultiTrigger::trigger(t);
+        const int base = 5 + 8 * t;
+        EXPECT_EQ(trigger.TestFlag.number, base);
+        EXPECT_EQ(trigger.TestComparison.number, base + 1);
+        EXPECT_EQ(trigger.TestValue.number, base + 2);
+        EXPECT_EQ(trigger.SetFlagOn.number, base + 3);
+        EXPECT_EQ(trigger.SetFlag.number, base + 4);
+        EXPECT_EQ(trigger.SetValue.number, base + 5);
+        EXPECT_EQ(trigger.SetAdd.number, base + 6);
+        EXPECT_EQ(trigger.TargetScene.number, base + 7);
+    }
+    for (int c = 0; c < FlagConjunction::kConditions; ++c) {
+        const FlagConjunction::Condition condition = FlagConjunction::condition(c);
+        const int base = 5 + 4 * c;
+        EXPECT_EQ(condition.On.number, base);
+        EXPECT_EQ(condition.TestFlag.number, base + 1);
+        EXPECT_EQ(condition.TestComparison.number, base + 2);
+        EXPECT_EQ(condition.TestValue.number, base + 3);
+    }
+}
+
+TEST(Objects, FieldsOfARowBearItsLabel) {
+    std::map<int, std::string_view> names;
+    for (const ObjectFieldInfo& field : objectFields(ObjectType::multiTrigger)) {
+        names[field.number] = field.name;
+        EXPECT_EQ(field.row, field.number < 5 ? 0 : (field.number - 5) / 8 + 1) << field.name;
+    }
+    EXPECT_EQ(names.size(), 25U);
+    EXPECT_EQ(names[4], "OnlyInScene");
+    EXPECT_EQ(names[12], "TargetScene1");
+    EXPECT_EQ(names[28], "TargetScene3");
+    const auto conditions = objectFields(ObjectType::flagConjunction);
+    EXPECT_EQ(conditions.size(), 28U);
+    EXPECT_EQ(conditions[4].name, "OnA");
+    EXPECT_EQ(conditions.back().name, "TestValueF");
+    EXPECT_EQ(conditions.back().number, 28);
 }
 
 TEST(Objects, TypesBeyondTheKnownOnesAreNamedSo) {

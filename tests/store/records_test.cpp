@@ -1,5 +1,6 @@
 #include "store/records.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "store/golden_records.h"
@@ -208,6 +209,19 @@ TEST(Records, RunsOfSlotNumbersAreNamedOneByOne) {
     EXPECT_EQ(elementName(fields[4], 25), "SlotInt29");
     EXPECT_EQ(elementName(fields[6], 5), "SlotInt36");
     EXPECT_EQ(elementName(fieldsOf<SceneRecord>()[26], 1), "Reserved156(2)");
+}
+
+TEST(Records, RunsAreNumberedAsTheSystemNumbersThem) {
+    const auto settings = fieldsOf<GameSettingsRecord>();
+    const auto namesOf = [](std::span<const FieldInfo> fields, std::string_view name) {
+        const auto field = std::ranges::find(fields, name, &FieldInfo::name);
+        return elementName(*field, 0) + " to " + elementName(*field, field->count - 1);
+    };
+    EXPECT_EQ(namesOf(settings, "DiscLabel"), "DiscLabel1 to DiscLabel4");
+    EXPECT_EQ(namesOf(settings, "GamePointer"), "GamePointer1 to GamePointer15");
+    EXPECT_EQ(namesOf(settings, "MenuButtonOn"), "MenuButtonOn0 to MenuButtonOn4");
+    EXPECT_EQ(namesOf(settings, "GameButtonOn"), "GameButtonOn0 to GameButtonOn1");
+    EXPECT_EQ(namesOf(fieldsOf<SkinRecord>(), "Coords"), "Coords0 to Coords9");
 }
 
 TEST(Records, TheDumpOfASceneShowsItsSlots) {

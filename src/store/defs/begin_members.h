@@ -3,4 +3,4 @@
 #define TEXTS(name, count, width, ...) TextFields<count, width> name;
 #define INT(name, ...) IntField name;
 #define INTS(name, count, ...) IntFields<count> name;
-#define SLOTS(name, count, meaning) std::array<ObjectSlotRecord, count> name;
+#define SLOTS(name, count, ...) std::array<ObjectSlotRecord, count> name;

@@ -3,3 +3,4 @@
 #undef INT
 #undef INTS
 #undef SLOTS
+#include "store/defs/end_traits.h"
