@@ -139,7 +139,7 @@ TEST_F(SampleGame, ObjectFieldsAreValid) {
                 EXPECT_TRUE(validNumber(field, slot.SlotInt(field.number)));
             } else if (field.use == FieldUse::gfxFile) {
                 expectFile(ResourceFolder::gfx, slot.SlotStr(field.number));
-            } else if (field.use == FieldUse::mediaFile) {
+            } else if (field.use == FieldUse::mediaFile || field.use == FieldUse::soundtrackFile) {
                 expectFile(ResourceFolder::mmedia, slot.SlotStr(field.number));
             }
         }
@@ -327,38 +327,6 @@ TEST_F(SampleGame, SoundsAreWavesTunesAndAMovie) {
     EXPECT_GE(waves, 6);
     EXPECT_GE(tunes, 1);
     EXPECT_EQ(movies, 1);
-}
-
-TEST_F(SampleGame, NoFileIsUnused) {
-    std::set<std::string> named;
-    const auto add = [&](const std::string& name) { named.insert(name); };
-    for (const Scene& scene : scenes_) {
-        std::ranges::for_each(scene.HeaderStrings, add);
-    }
-    forEachObject([&](int /*scene*/, int /*number*/, const ObjectSlot& slot) {
-        for (int field = 1; field <= ObjectSlot::kStrs; ++field) {
-            add(slot.SlotStr(field));
-        }
-    });
-    for (const RecordFileBase* file :
-         std::initializer_list<const RecordFileBase*>{&project_.locationFile, &project_.itemFile,
-                                                      &project_.settingsFile, &project_.cardFile}) {
-        const std::string bytes = test::readBytes(file->path());
-        for (const ResourceFolder kind : {ResourceFolder::gfx, ResourceFolder::mmedia}) {
-            for (const auto& entry :
-                 fs::directory_iterator(resourceFolder(project_.folder(), kind))) {
-                const std::string name = entry.path().filename().string();
-                if (bytes.find(name) != std::string::npos) {
-                    add(name);
-                }
-            }
-        }
-    }
-    for (const ResourceFolder kind : {ResourceFolder::gfx, ResourceFolder::mmedia}) {
-        for (const auto& entry : fs::directory_iterator(resourceFolder(project_.folder(), kind))) {
-            EXPECT_TRUE(named.contains(entry.path().filename().string())) << entry.path();
-        }
-    }
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "store/numbers.h"
 #include "store/paths.h"
 #include "store/records.h"
+#include "store/references.h"
 #include "store/scene.h"
 #include "store/text_codec.h"
 
@@ -60,6 +61,21 @@ void tryScene(std::string_view bytes) {
     require(dumpRecord(bytesOf(record), fieldsOf<SceneRecord>()) ==
                 dumpRecord(bytesOf(saved), fieldsOf<SceneRecord>()),
             "a load and a save change no value");
+}
+
+/// Whatever is named, its place and its text are within bounds.
+void tryReferences(std::string_view bytes) {
+    const auto visit = [](const Reference& each) {
+        require(each.slot >= 0 && each.slot <= kSlotCount, "a slot of the scene");
+        require(isFile(each.kind) == !each.file.empty(), "a file has a name");
+        require(each.file.size() <= 3 * 15 + 4, "a name is no longer than its field");
+    };
+    forEachReference(recordOf<SceneRecord>(bytes), 1, visit);
+    forEachReference(recordOf<LocationRecord>(bytes), 1, visit);
+    forEachReference(recordOf<ItemRecord>(bytes), 1, visit);
+    forEachReference(recordOf<CueCardRecord>(bytes), 1, visit);
+    forEachReference(recordOf<GameSettingsRecord>(bytes), visit);
+    forEachReference(recordOf<ProjectRecord>(bytes), visit);
 }
 
 void tryText(std::string_view bytes) {
@@ -119,6 +135,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     tryRecord<CueCardRecord>(bytes);
     tryRecord<SkinRecord>(bytes);
     tryScene(bytes);
+    tryReferences(bytes);
     tryText(bytes);
     tryNumbers(bytes);
     tryPaths(bytes);
