@@ -1,12 +1,9 @@
 #include "store/file_handle.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <string>
 #include <utility>
-
-#ifndef _WIN32
-#include <sys/stat.h>
-#endif
 
 #include "store/runtime_error.h"
 
@@ -45,29 +42,12 @@ ErrorNumber missing(const fs::path& path, std::error_code error) {
     return number == ErrorNumber::fileNotFound && !hasFolder ? ErrorNumber::pathNotFound : number;
 }
 
-/// True when the open file is in no folder any more, so that what is written ends with this handle.
-bool isDeleted(std::FILE* file, const fs::path& path) {
-#ifdef _WIN32
-    (void)file;
-    (void)path;
-    return false;  // the system keeps files that are open
-#else
-    struct stat open {};
-    struct stat named {};
-    if (::fstat(fileno(file), &open) != 0 || open.st_nlink != 0) {
-        return false;
-    }
-    // Some file systems do not count names.
-    return ::stat(path.c_str(), &named) != 0 || named.st_dev != open.st_dev ||
-           named.st_ino != open.st_ino;
-#endif
-}
-
 }  // namespace
 
 FileHandle::FileHandle(std::FILE* file, fs::path path, bool writable)
-    : file_(file), path_(std::move(path)), writable_(writable) {
+    : file_(file), path_(std::move(path)), identity_(file, path_), writable_(writable) {
     std::setvbuf(file, nullptr, _IONBF, 0);
+    length_ = size();
 }
 
 FileHandle FileHandle::open(const fs::path& path) {
@@ -131,7 +111,27 @@ std::size_t FileHandle::readAt(std::uintmax_t offset, std::span<char> into) {
         std::clearerr(file_.get());
         fail(path_, systemError);
     }
+    const std::uintmax_t end = std::min<std::uintmax_t>(offset + into.size(), length_);
+    if (offset + count < end) {
+        throw LostFileError(FileLoss::shortened, path_);
+    }
     return count;
+}
+
+std::uintmax_t FileHandle::lengthToWrite() const {
+    const std::uintmax_t now = size();
+    switch (identity_.find(file_.get(), path_, now)) {
+        case FoundFile::nothing:
+            throw LostFileError(FileLoss::gone, path_);
+        case FoundFile::another:
+            throw LostFileError(FileLoss::replaced, path_);
+        case FoundFile::same:
+            break;
+    }
+    if (now < length_) {
+        throw LostFileError(FileLoss::shortened, path_);
+    }
+    return now;
 }
 
 void FileHandle::writeAt(std::uintmax_t offset, std::span<const char> bytes) {
@@ -139,16 +139,14 @@ void FileHandle::writeAt(std::uintmax_t offset, std::span<const char> bytes) {
     if (!writable_) {
         throw RuntimeError(ErrorNumber::accessError, path_);
     }
-    if (isDeleted(file_.get(), path_)) {
-        throw RuntimeError(ErrorNumber::fileNotFound, path_);
-    }
-    const std::uintmax_t before = size();
+    const std::uintmax_t before = lengthToWrite();
     const bool acrossTheEnd = offset < before && before - offset < bytes.size();
     const std::string tail = acrossTheEnd ? tailFrom(offset, before) : std::string();
     seek(offset);
     errno = 0;
     if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) == bytes.size() &&
         std::fflush(file_.get()) == 0) {
+        length_ = std::max<std::uintmax_t>(length_, offset + bytes.size());
         return;
     }
     const int systemError = errno;

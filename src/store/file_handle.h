@@ -8,11 +8,17 @@
 #include <span>
 #include <string>
 
+#include "store/file_identity.h"
+
 namespace quorvel::store {
 
 /// Owns an open file; closing may also be left to the destructor, which cannot report an error.
 /// Every failure is thrown as `RuntimeError`. There is no buffer of its own: each read and each
 /// write is one call to the system. Programs that are started do not inherit the file.
+///
+/// Others can work on the same files. What would be lost for the author is refused as
+/// `LostFileError`: a write to a file that its path does not name any more, and reading or writing
+/// once the file is shorter than it was here.
 class FileHandle {
   public:
     FileHandle() = default;
@@ -28,13 +34,15 @@ class FileHandle {
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
     /// Length of the open file in bytes, whatever became of its name.
     [[nodiscard]] std::uintmax_t size() const;
+    /// Length of the file as it was opened and written here; it is shorter when others cut it.
+    [[nodiscard]] std::uintmax_t lengthHere() const { return length_; }
 
     /// Reads at `offset` bytes from the start; returns the bytes read, fewer than asked only at the
-    /// end of the file. Never makes the file longer.
+    /// end of the file, and never fewer than the file once had there. Never makes the file longer.
     std::size_t readAt(std::uintmax_t offset, std::span<char> into);
 
-    /// Writes all of `bytes` at `offset` in one call. When that fails, also because the file was
-    /// deleted, it keeps its length, and its last bytes where the write would have crossed its end.
+    /// Writes all of `bytes` at `offset` in one call. When that fails the file keeps its length,
+    /// and its last bytes where the write would have crossed its end.
     void writeAt(std::uintmax_t offset, std::span<const char> bytes);
 
     /// Closes the file and reports an error of it. Closing a closed handle does nothing.
@@ -46,11 +54,15 @@ class FileHandle {
     };
     FileHandle(std::FILE* file, std::filesystem::path path, bool writable);
     void seek(std::uintmax_t offset) const;
+    /// Length of the file, when it is still the one to write to.
+    [[nodiscard]] std::uintmax_t lengthToWrite() const;
     [[nodiscard]] std::string tailFrom(std::uintmax_t offset, std::uintmax_t end);
     void restore(std::uintmax_t length, std::uintmax_t offset, std::span<const char> tail);
 
     std::unique_ptr<std::FILE, Closer> file_;
     std::filesystem::path path_;
+    FileIdentity identity_;
+    std::uintmax_t length_ = 0;  ///< at the opening and after what was written here since
     bool writable_ = false;
 };
 

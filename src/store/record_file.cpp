@@ -12,6 +12,10 @@ int RecordFileBase::count() const {
     return recordCount(file_.size(), length_);
 }
 
+bool RecordFileBase::isEmpty() const {
+    return count() == 0 && recordCount(file_.lengthHere(), length_) == 0;
+}
+
 std::uintmax_t RecordFileBase::offsetOf(int number) const {
     if (number < 1) {
         throw RuntimeError(ErrorNumber::badRecord, file_.path());

@@ -23,6 +23,8 @@ class RecordFileBase {
     [[nodiscard]] std::uintmax_t size() const { return file_.size(); }
     /// Records in the file now, from its length.
     [[nodiscard]] int count() const;
+    /// True when there is no record, and was none that others cut off.
+    [[nodiscard]] bool isEmpty() const;
 
     /// Hands every record over once, in order, in blocks of about a megabyte. A record that the
     /// file holds in part is filled up with zero bytes.

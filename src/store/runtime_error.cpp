@@ -36,6 +36,11 @@ std::string_view describe(ErrorNumber number) {
 RuntimeError::RuntimeError(ErrorNumber number, std::filesystem::path file)
     : std::runtime_error(std::string(describe(number))), number_(number), file_(std::move(file)) {}
 
+LostFileError::LostFileError(FileLoss loss, std::filesystem::path file)
+    : RuntimeError(loss == FileLoss::shortened ? ErrorNumber::badRecord : ErrorNumber::fileNotFound,
+                   std::move(file)),
+      loss_(loss) {}
+
 namespace {
 /// The standard has no condition for a used-up quota.
 bool isOverQuota([[maybe_unused]] std::error_code error) {

@@ -43,6 +43,25 @@ class RuntimeError : public std::runtime_error {
     std::filesystem::path file_;
 };
 
+/// What others did to a file that is open here.
+enum class FileLoss {
+    gone,       ///< its path names nothing any more
+    replaced,   ///< its path names another file
+    shortened,  ///< a part of it was cut off
+};
+
+/// An open file that is not what it was; writing to it would lose what the author made, or what
+/// somebody else did.
+class LostFileError : public RuntimeError {
+  public:
+    LostFileError(FileLoss loss, std::filesystem::path file);
+
+    [[nodiscard]] FileLoss loss() const { return loss_; }
+
+  private:
+    FileLoss loss_;
+};
+
 /// The run-time error that stands for an error of the operating system.
 ErrorNumber errorNumberOf(std::error_code error);
 

@@ -35,7 +35,7 @@ CueCardRecord readFirstCard(const Project& project) {
 template <class Record>
 void writeCode(RecordFile<Record>& file, std::int16_t code, std::exception_ptr& firstFailure) {
     try {
-        if (file.isOpen() && file.count() > 0) {
+        if (file.isOpen() && !file.isEmpty()) {
             Record record = file.read(1);
             record.SecurityCode = code;
             file.write(1, record);

@@ -76,6 +76,25 @@ class EachStore : public DamagedFiles, public ::testing::WithParamInterface<int>
   protected:
     fs::path path() const { return files_.storePath(GetParam()); }
     std::uintmax_t length() const { return static_cast<std::uintmax_t>(kLengths[GetParam()]); }
+    /// A save of the second record, or of the settings, by the routine of this store.
+    static void writeSecond(Project& project) {
+        switch (GetParam()) {
+            case 1:
+                SaveScene(project, Scene(), 2);
+                break;
+            case 2:
+                SaveLocation(project, 2, newRecord<LocationRecord>());
+                break;
+            case 3:
+                SaveItem(project, 2, newRecord<ItemRecord>());
+                break;
+            case 4:
+                SaveSettings(project, SettingsSlice::gameIntro, newRecord<GameSettingsRecord>());
+                break;
+            default:
+                SaveCard(project, 2, newRecord<CueCardRecord>());
+        }
+    }
 };
 INSTANTIATE_TEST_SUITE_P(Stores, EachStore, ::testing::Range(1, 6));
 
@@ -121,22 +140,7 @@ TEST_P(EachStore, AnEditOfOneRecordKeepsTheBytesOfAllOthers) {
     const std::string before = readBytes(path());
     Project project;
     files_.openIn(project);
-    switch (GetParam()) {
-        case 1:
-            SaveScene(project, Scene(), 2);
-            break;
-        case 2:
-            SaveLocation(project, 2, newRecord<LocationRecord>());
-            break;
-        case 3:
-            SaveItem(project, 2, newRecord<ItemRecord>());
-            break;
-        case 4:
-            SaveSettings(project, SettingsSlice::gameIntro, newRecord<GameSettingsRecord>());
-            break;
-        default:
-            SaveCard(project, 2, newRecord<CueCardRecord>());
-    }
+    writeSecond(project);
     const std::string after = readBytes(path());
     ASSERT_EQ(after.size(), before.size());
     const auto begin = static_cast<std::size_t>(GetParam() == 4 ? 0 : length());
@@ -144,6 +148,47 @@ TEST_P(EachStore, AnEditOfOneRecordKeepsTheBytesOfAllOthers) {
     EXPECT_EQ(after.substr(0, begin), before.substr(0, begin));
     EXPECT_EQ(after.substr(end), before.substr(end));
     EXPECT_NE(after, before);
+}
+
+TEST_P(EachStore, AFileThatTookItsPlaceIsNotWritten) {
+    Project project;
+    files_.openIn(project);
+    fs::create_hard_link(path(), folder_ / "aside");
+    fs::copy_file(path(), folder_ / "other");
+    fs::rename(folder_ / "other", path());
+    const auto before = snapshotOf(folder_.path());
+    EXPECT_THROW(writeSecond(project), LostFileError);
+    project.SecurityOn = true;
+    project.SecurityCode = 77;
+    EXPECT_THROW(WriteSecurity(project), LostFileError);
+    const std::string name = "resource/Quorvel" + std::to_string(GetParam()) + ".dat";
+    const auto after = snapshotOf(folder_.path());
+    EXPECT_EQ(after.at(name), before.at(name));
+    EXPECT_EQ(after.at("aside"), before.at("aside"));
+}
+
+TEST_P(EachStore, OneThatBecameShorterIsNotFilledUp) {
+    writeBytes(path(), randomBytes(static_cast<std::size_t>(3 * length()), 12));
+    Project project;
+    files_.openIn(project);
+    for (const std::uintmax_t left : {length() + 1, length() / 2, std::uintmax_t{0}}) {
+        test::truncateFile(path(), left);
+        const std::string before = readBytes(path());
+        EXPECT_THROW(writeSecond(project), LostFileError) << left;
+        EXPECT_THROW(WriteSecurity(project), LostFileError) << left;
+        EXPECT_EQ(readBytes(path()), before) << left;
+    }
+}
+
+TEST_F(DamagedFiles, AProjectFileThatTookTheOpenOnesPlaceIsNotWritten) {
+    Project project;
+    files_.openIn(project);
+    fs::copy_file(files_.projectPath(), folder_ / "other");
+    fs::rename(folder_ / "other", files_.projectPath());
+    const std::string before = readBytes(files_.projectPath());
+    project.Author = "Somebody else";
+    EXPECT_THROW(project.SaveProjectFile(), LostFileError);
+    EXPECT_EQ(readBytes(files_.projectPath()), before);
 }
 
 TEST_F(DamagedFiles, AProjectFileOfAnotherLength) {

@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <gtest/gtest.h>
+#include <optional>
 
 #ifdef __linux__
 #include <fcntl.h>
@@ -169,27 +170,101 @@ TEST_F(FileHandleTest, TheSizeIsThatOfTheOpenFileWhateverHappensToItsName) {
     FileHandle file = FileHandle::open(folder_ / "f");
     fs::rename(folder_ / "f", folder_ / "g");
     EXPECT_EQ(file.size(), 10U);
-    file.writeAt(10, std::string("x"));
+    test::appendBytes(folder_ / "g", "x");
     EXPECT_EQ(file.size(), 11U);
-    EXPECT_EQ(readBytes(folder_ / "g"), "0123456789x");
 }
 
 #ifdef __linux__
-TEST_F(FileHandleTest, AFileThatWasDeletedOrReplacedIsNotWritten) {
+/// What a write of one byte says of the file that is open.
+std::optional<FileLoss> lossAtWrite(FileHandle& file) {
+    try {
+        file.writeAt(0, std::string("x"));
+    } catch (const LostFileError& error) {
+        EXPECT_EQ(error.file(), file.path());
+        EXPECT_EQ(error.number(), error.loss() == FileLoss::shortened ? 63 : 53);
+        return error.loss();
+    }
+    return std::nullopt;
+}
+
+TEST_F(FileHandleTest, AFileThatWasDeletedIsNotWritten) {
     writeBytes(folder_ / "f", "0123456789");
-    writeBytes(folder_ / "g", "another");
     FileHandle file = FileHandle::open(folder_ / "f");
-    fs::rename(folder_ / "g", folder_ / "f");
-    EXPECT_EQ(errorOf([&] { file.writeAt(0, std::string("x")); }), 53);
-    EXPECT_EQ(readBytes(folder_ / "f"), "another");
-    file = FileHandle::open(folder_ / "f");
     fs::remove(folder_ / "f");
-    EXPECT_EQ(errorOf([&] { file.writeAt(0, std::string("x")); }), 53);
+    EXPECT_EQ(lossAtWrite(file), FileLoss::gone);
     EXPECT_FALSE(fs::exists(folder_ / "f"));
     std::string into(7, '#');
     EXPECT_EQ(file.readAt(0, into), 7U) << "it can still be read";
 }
+
+TEST_F(FileHandleTest, AFileThatWasMovedAwayIsNotWrittenAndIsKnownAgainWhenItIsBack) {
+    fs::create_directory(folder_ / "resource");
+    writeBytes(folder_ / "resource/f", "0123456789");
+    FileHandle file = FileHandle::open(folder_ / "resource/f");
+    fs::rename(folder_ / "resource/f", folder_ / "g");
+    EXPECT_EQ(lossAtWrite(file), FileLoss::gone);
+    fs::rename(folder_ / "g", folder_ / "resource/f");
+    EXPECT_EQ(lossAtWrite(file), std::nullopt);
+    fs::rename(folder_ / "resource", folder_ / "elsewhere");
+    EXPECT_EQ(lossAtWrite(file), FileLoss::gone) << "with its folder";
+    fs::rename(folder_ / "elsewhere", folder_ / "resource");
+    EXPECT_EQ(lossAtWrite(file), std::nullopt);
+}
+
+TEST_F(FileHandleTest, AFileThatAnotherTookThePlaceOfIsNotWritten) {
+    writeBytes(folder_ / "f", "0123456789");
+    FileHandle file = FileHandle::open(folder_ / "f");
+    // Of the same length and content, and the first one has a name left.
+    fs::create_hard_link(folder_ / "f", folder_ / "kept");
+    fs::copy_file(folder_ / "f", folder_ / "g");
+    fs::rename(folder_ / "g", folder_ / "f");
+    EXPECT_EQ(lossAtWrite(file), FileLoss::replaced);
+    EXPECT_EQ(readBytes(folder_ / "f"), "0123456789");
+    EXPECT_EQ(readBytes(folder_ / "kept"), "0123456789");
+    file = FileHandle::open(folder_ / "f");
+    EXPECT_EQ(lossAtWrite(file), std::nullopt);
+}
+
+TEST_F(FileHandleTest, ALinkThatLeadsElsewhereNowIsAnotherFile) {
+    writeBytes(folder_ / "first", "0123456789");
+    writeBytes(folder_ / "second", "abcdefghij");
+    fs::create_symlink("first", folder_ / "f");
+    FileHandle file = FileHandle::open(folder_ / "f");
+    EXPECT_EQ(lossAtWrite(file), std::nullopt);
+    fs::remove(folder_ / "f");
+    fs::create_symlink("second", folder_ / "f");
+    EXPECT_EQ(lossAtWrite(file), FileLoss::replaced);
+    EXPECT_EQ(readBytes(folder_ / "second"), "abcdefghij");
+}
 #endif
+
+TEST_F(FileHandleTest, WhatAFileHadAndHasNoMoreIsNeitherReadNorWritten) {
+    writeBytes(folder_ / "f", "0123456789");
+    FileHandle file = FileHandle::open(folder_ / "f");
+    file.writeAt(10, std::string("ab"));
+    test::truncateFile(folder_ / "f", 11);
+    EXPECT_EQ(errorOf([&] { file.writeAt(0, std::string("x")); }), 63);
+    EXPECT_EQ(errorOf([&] { file.writeAt(12, std::string("x")); }), 63);
+    EXPECT_EQ(readBytes(folder_ / "f"), "0123456789a");
+    std::string into(4, '#');
+    EXPECT_EQ(file.readAt(7, into), 4U) << "what is still there can be read";
+    EXPECT_EQ(errorOf([&] { file.readAt(8, into); }), 63);
+    EXPECT_EQ(errorOf([&] { file.readAt(11, into); }), 63);
+    EXPECT_EQ(file.readAt(12, into), 0U) << "was never there";
+    test::appendBytes(folder_ / "f", "c");
+    file.writeAt(0, std::string("x"));
+    EXPECT_EQ(readBytes(folder_ / "f"), "x123456789ac");
+}
+
+TEST_F(FileHandleTest, WhatOthersAppendIsReadAndKept) {
+    writeBytes(folder_ / "f", "0123456789");
+    FileHandle file = FileHandle::open(folder_ / "f");
+    test::appendBytes(folder_ / "f", "abc");
+    std::string into(3, '#');
+    EXPECT_EQ(file.readAt(10, into), 3U);
+    file.writeAt(0, std::string("x"));
+    EXPECT_EQ(readBytes(folder_ / "f"), "x123456789abc");
+}
 
 TEST_F(FileHandleTest, AClosedHandleCannotBeUsed) {
     FileHandle file = FileHandle::openOrCreate(folder_ / "f");

@@ -177,9 +177,9 @@ TEST_F(Security, SwitchedOffTheCodeIsZeroEverywhere) {
 }
 
 TEST_F(Security, StoresWithoutARecordStayEmpty) {
-    ProjectBuilder().build(folder_.path()).openIn(project_);
-    files_ = TestProject{folder_.path(), "Test.qvl"};
+    files_ = ProjectBuilder().build(folder_.path());
     test::truncateFile(files_.storePath(1), 0);
+    files_.openIn(project_);
     project_.SecurityOn = true;
     project_.SecurityCode = 5;
     WriteSecurity(project_);

@@ -59,6 +59,12 @@ class Settings : public ProjectStage {
   protected:
     void SetUp() override { open(ProjectBuilder()); }
     std::string stored() const { return readBytes(files_.storePath(4)); }
+    /// The project as it opens with a store of `length` bytes.
+    void openCutTo(std::uintmax_t length) {
+        project_.closeFiles();
+        test::truncateFile(files_.storePath(4), length);
+        files_.openIn(project_);
+    }
 };
 
 class EachSlice : public Settings, public ::testing::WithParamInterface<int> {
@@ -118,7 +124,7 @@ TEST_P(EachSlice, TextsThatTheFormNeverSetAreWrittenBlank) {
 }
 
 TEST_F(Settings, ASliceThatDoesNotExistDoesNothing) {
-    test::truncateFile(files_.storePath(4), 907);
+    openCutTo(907);
     const std::string before = stored();
     for (const int slice : {0, 6, -1, 99}) {
         SaveSettings(project_, static_cast<SettingsSlice>(slice),
@@ -182,7 +188,7 @@ TEST_F(Settings, AnIntroVolumeAboveOneHundredLoadsAsOneHundred) {
 }
 
 TEST_F(Settings, OfAStoreOfAnotherLengthTheRestIsZero) {
-    test::truncateFile(files_.storePath(4), 20);
+    openCutTo(20);
     EXPECT_EQ(LoadSettings(project_, SettingsSlice::genSettings).GameTitle.text(), "Untitled");
     EXPECT_EQ(LoadSettings(project_, SettingsSlice::genSettings).PlayerExeName.text(), "");
     EXPECT_EQ(LoadSettings(project_, SettingsSlice::openCredits).CreditsScene, 0);
