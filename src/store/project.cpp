@@ -122,7 +122,7 @@ ProjectRecord Project::toRecord() const {
     record.CueCardCount = static_cast<std::int16_t>(CueCardCount);
     record.ViewBorders = toggle(ViewBorders);
     record.ViewAnimations = toggle(ViewAnimations);
-    record.ViewLockObjects = ViewLockObjects;  // has no button, so nothing ever changes it
+    record.ViewLockObjects = toggle(ViewLockObjects);  // has no button, nothing else changes it
     return record;
 }
 

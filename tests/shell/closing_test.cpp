@@ -140,12 +140,12 @@ TEST_P(Toggles, AreAppliedAndWrittenAsTheyStand) {
     leave();
     EXPECT_EQ(readInt(files.projectPath(), 336), borders == 1 ? 1 : 0);
     EXPECT_EQ(readInt(files.projectPath(), 338), animations == 1 ? 1 : 0);
-    EXPECT_EQ(readInt(files.projectPath(), 340), locked) << "carried through";
+    EXPECT_EQ(readInt(files.projectPath(), 340), locked == 1 ? 1 : 0) << "has no button";
 }
 INSTANTIATE_TEST_SUITE_P(Values, Toggles,
                          ::testing::Values(std::tuple{0, 0, 0}, std::tuple{1, 0, 1},
                                            std::tuple{0, 1, 0}, std::tuple{1, 1, 1},
-                                           std::tuple{2, -1, 0}));
+                                           std::tuple{2, -1, 7}, std::tuple{1, 0, -1}));
 
 TEST_F(Closing, AToggleThatWasPressedIsWritten) {
     const TestProject files = full().build(projects.path());

@@ -205,7 +205,7 @@ TEST_F(ProjectTest, AToggleIsOnAtOneAlone) {
     close();
     EXPECT_EQ(readInt(files_.projectPath(), 336), 0);
     EXPECT_EQ(readInt(files_.projectPath(), 338), 0);
-    EXPECT_EQ(readInt(files_.projectPath(), 340), 5);  // nothing changes it
+    EXPECT_EQ(readInt(files_.projectPath(), 340), 0);
 }
 
 TEST_F(ProjectTest, NotesAndNamesAreTrimmed) {
