@@ -105,7 +105,7 @@ void SceneWindow::showObject(const store::ObjectSlot& slot, int k) {
         return;
     }
     canvas::Place place{store::number(slot, store::kLeft), store::number(slot, store::kTop), 0, 0};
-    if (canvas::isQuickSpot(slot)) {
+    if (store::isQuickSpot(slot)) {
         const auto side = [&slot](store::WordField field) {
             return canvas::pixel(
                 std::max(store::valInt(store::word(slot, field)), store::HotSpot::kLeastSide));

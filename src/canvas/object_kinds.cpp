@@ -32,11 +32,6 @@ DisplayMode modeOfReactor(std::int16_t style) {
 
 }  // namespace
 
-bool isQuickSpot(const store::ObjectSlot& slot) {
-    return store::typeOf(slot) == ObjectType::hotSpot &&
-           store::number(slot, store::HotSpot::QuickSpot) != 0;
-}
-
 QString tagOf(ObjectType type) {
     const std::string_view name = store::typeName(type);
     return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));

@@ -11,7 +11,6 @@ namespace quorvel::canvas {
 [[nodiscard]] inline bool isPresent(const store::ObjectSlot& slot) {
     return store::typeOf(slot) != store::ObjectType::free;
 }
-[[nodiscard]] bool isQuickSpot(const store::ObjectSlot& slot);
 
 /// The tag that elements of this type bear; empty for a free slot.
 [[nodiscard]] QString tagOf(store::ObjectType type);

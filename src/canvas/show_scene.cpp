@@ -14,11 +14,8 @@
 namespace quorvel::canvas {
 namespace {
 
-/// A QuickSpot's side out of its text, which is mended when the number is too low.
-std::int16_t mendedSide(std::string& text) {
-    if (store::val(text) < store::HotSpot::kLeastSide) {
-        text = std::to_string(store::HotSpot::kLeastSide);
-    }
+/// A QuickSpot's side out of its text.
+std::int16_t sideOf(const std::string& text) {
     constexpr int kMost = std::numeric_limits<std::int16_t>::max();
     return static_cast<std::int16_t>(std::min(store::valInt(text), kMost));
 }
@@ -131,7 +128,7 @@ void SceneView::showObject(int k, const ObjectFile& file) {
     }
     object.moveTo(store::number(slot, store::kLeft), store::number(slot, store::kTop));
     quickSpots_[i]->moveTo(store::number(slot, store::kLeft), store::number(slot, store::kTop));
-    if (isQuickSpot(slot)) {
+    if (store::isQuickSpot(slot)) {
         showQuickSpot(k);
         return;
     }
@@ -143,10 +140,10 @@ void SceneView::showObject(int k, const ObjectFile& file) {
 
 void SceneView::showQuickSpot(int k) {
     store::ObjectSlot& slot = scene_.slot(k);
-    store::number(slot, store::HotSpot::QuickSpot) = 1;
+    store::mendQuickSpot(slot);
     SceneElement& spot = *quickSpots_[static_cast<std::size_t>(k)];
-    const std::int16_t height = mendedSide(store::word(slot, store::HotSpot::QuickHeight));
-    const std::int16_t width = mendedSide(store::word(slot, store::HotSpot::QuickWidth));
+    const std::int16_t height = sideOf(store::word(slot, store::HotSpot::QuickHeight));
+    const std::int16_t width = sideOf(store::word(slot, store::HotSpot::QuickWidth));
     spot.setPlace({spot.place().left, spot.place().top, width, height});
     spot.setShown(true);
 }

@@ -174,6 +174,40 @@ void FileHandle::restore(std::uintmax_t length, std::uintmax_t offset, std::span
     std::clearerr(file_.get());
 }
 
+bool FileHandle::copyTo(std::FILE* copy) {
+    constexpr std::size_t kBlockBytes = 1U << 20U;
+    std::string block(kBlockBytes, '\0');
+    seek(0);
+    std::size_t count = 0;
+    do {
+        count = std::fread(block.data(), 1, block.size(), file_.get());
+        if (std::fwrite(block.data(), 1, count, copy) != count) {
+            return false;
+        }
+    } while (count == block.size());
+    return std::ferror(file_.get()) == 0;
+}
+
+void FileHandle::putBack() {
+    errno = 0;
+    std::FILE* copy = openFile(path_, "wbx");  // fails where something lies
+    if (copy == nullptr) {
+        fail(path_, errno);
+    }
+    bool written = copyTo(copy);
+    int systemError = errno;
+    if (std::fclose(copy) != 0 && written) {
+        written = false;
+        systemError = errno;
+    }
+    if (!written) {
+        std::error_code ignored;
+        fs::remove(path_, ignored);
+        fail(path_, systemError);
+    }
+    *this = open(fs::path(path_));
+}
+
 void FileHandle::close() {
     if (std::FILE* file = file_.release()) {
         errno = 0;

@@ -45,6 +45,10 @@ class FileHandle {
     /// and its last bytes where the write would have crossed its end.
     void writeAt(std::uintmax_t offset, std::span<const char> bytes);
 
+    /// Makes the file anew where its path names nothing any more, with all that the open one holds,
+    /// and goes on with that. What is there meanwhile is not touched; a failure leaves nothing.
+    void putBack();
+
     /// Closes the file and reports an error of it. Closing a closed handle does nothing.
     void close();
 
@@ -56,6 +60,8 @@ class FileHandle {
     void seek(std::uintmax_t offset) const;
     /// Length of the file, when it is still the one to write to.
     [[nodiscard]] std::uintmax_t lengthToWrite() const;
+    /// Writes all that the file holds to `copy`; false when that failed.
+    bool copyTo(std::FILE* copy);
     [[nodiscard]] std::string tailFrom(std::uintmax_t offset, std::uintmax_t end);
     void restore(std::uintmax_t length, std::uintmax_t offset, std::span<const char> tail);
 

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "store/numbers.h"
+
 namespace quorvel::store {
 namespace {
 
@@ -81,6 +83,12 @@ constexpr std::array<TypeRow, kObjectTypes> kTypes = {{
     {"Flag Conjunction", kFlagConjunctionList},
 }};
 
+void mendSide(std::string& text) {
+    if (val(text) < HotSpot::kLeastSide) {
+        text = std::to_string(HotSpot::kLeastSide);
+    }
+}
+
 const TypeRow* rowOf(ObjectType type) {
     return isKnownType(type) ? &kTypes[static_cast<std::size_t>(type)] : nullptr;
 }
@@ -148,6 +156,18 @@ std::string_view typeName(ObjectType type) {
     }
     const TypeRow* row = rowOf(type);
     return row == nullptr ? ">>> Unknown <<<" : row->name;
+}
+
+bool isQuickSpot(const ObjectSlot& slot) {
+    return typeOf(slot) == ObjectType::hotSpot && number(slot, HotSpot::QuickSpot) != 0;
+}
+
+void mendQuickSpot(ObjectSlot& slot) {
+    if (isQuickSpot(slot)) {
+        number(slot, HotSpot::QuickSpot) = 1;
+        mendSide(word(slot, HotSpot::QuickHeight));
+        mendSide(word(slot, HotSpot::QuickWidth));
+    }
 }
 
 void ResetSlot(ObjectSlot& slot, ObjectType type, std::int16_t left, std::int16_t top) {

@@ -155,6 +155,11 @@ bool isKnownType(ObjectType type);
 /// True for the types that have a picture of their own, Ambient to Reactor.
 bool hasPicture(ObjectType type);
 
+/// True when the object in `slot` is a HotSpot without a picture of its own.
+bool isQuickSpot(const ObjectSlot& slot);
+/// Makes a QuickSpot valid: its mark 1, its sides at least the lowest. Other objects stay.
+void mendQuickSpot(ObjectSlot& slot);
+
 /// Makes `slot` a fresh object of `type` at a place in canvas pixels. The reserved fields, numbers
 /// 30 to 36, stay as they are.
 void ResetSlot(ObjectSlot& slot, ObjectType type, std::int16_t left = 0, std::int16_t top = 0);

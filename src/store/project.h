@@ -41,7 +41,8 @@ class Project {
     std::string Author;
     std::string AuthorEmail;
     std::string ProjectNotes;
-    int CurrentScene = 0;  ///< 0 when no scene is on the canvas
+    int CurrentScene = 0;         ///< 0 when no scene is on the canvas
+    SceneRecord CurrentRecord{};  ///< of the current scene, as it was read or written last
     std::int16_t CurrentItem = 0;
     std::int16_t CurrentCueCard = 0;
     int NumberOfScenes = 0;

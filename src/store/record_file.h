@@ -30,6 +30,9 @@ class RecordFileBase {
     /// file holds in part is filled up with zero bytes.
     void readAll(const BlockReader& reader);
 
+    /// Makes the file anew where it was, with all its records, after its path came to name nothing.
+    void putBack() { file_.putBack(); }
+
     void close() { file_.close(); }
 
   protected:

@@ -19,6 +19,19 @@ std::vector<ListEntry> readNames(RecordFile<Record>& file, Name name) {
 
 }  // namespace
 
+std::string ProjectLists::sceneName(int number) const {
+    const bool known = number >= 1 && number <= static_cast<int>(scenes.size());
+    return known ? scenes[static_cast<std::size_t>(number - 1)].name : std::string();
+}
+
+bool ProjectLists::renameScene(int number, const std::string& name) {
+    if (number < 1 || number > static_cast<int>(scenes.size())) {
+        return false;
+    }
+    scenes[static_cast<std::size_t>(number - 1)].name = name;
+    return true;
+}
+
 std::string listText(int number, const std::string& name) {
     return std::to_string(number) + " (" + name + ")";
 }

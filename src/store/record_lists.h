@@ -39,6 +39,11 @@ struct ProjectLists {
     std::vector<ListEntry> cards;
     std::vector<MapIcon> mapIcons;
     std::string MapImage;  ///< picture of the map, empty for none
+
+    /// Name of scene `number`; empty where there is no such scene.
+    [[nodiscard]] std::string sceneName(int number) const;
+    /// Gives scene `number` another name. False where there is no such scene.
+    bool renameScene(int number, const std::string& name);
 };
 
 /// True when record `number` stands for a location: it is not removed, and not the first record of

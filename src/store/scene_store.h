@@ -17,6 +17,18 @@ void LoadScene(Project& project, Scene& scene, int number);
 /// fails the record in the file stays as it was.
 void SaveScene(Project& project, const Scene& scene, int number);
 
+/// True when two records hold the same scene: whatever an author can make or see of it, and the
+/// reserved fields. The security code does not count, nor how a text is padded.
+bool isSameScene(const SceneRecord& first, const SceneRecord& second);
+
+/// True when the record of the current scene is no longer the one that was read or written here
+/// last, but for its security code: somebody else wrote it.
+bool isChangedByOthers(Project& project);
+
+/// True when `scene` holds what neither its record in the store nor the one that was read last
+/// does, so that it would be lost.
+bool holdsUnsaved(Project& project, const Scene& scene);
+
 /// Writes a new scene with a name and a picture straight to the store.
 void WriteBlankScene(Project& project, int number, std::string_view name, std::string_view image);
 

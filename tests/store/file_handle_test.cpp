@@ -256,6 +256,42 @@ TEST_F(FileHandleTest, WhatAFileHadAndHasNoMoreIsNeitherReadNorWritten) {
     EXPECT_EQ(readBytes(folder_ / "f"), "x123456789ac");
 }
 
+TEST_F(FileHandleTest, AFileThatIsGoneCanBePutBack) {
+    const std::string bytes = test::randomBytes((1U << 20U) + 77, 3);
+    for (const std::string& content : {bytes, bytes.substr(0, 1U << 20U), std::string()}) {
+        writeBytes(folder_ / "f", content);
+        FileHandle file = FileHandle::open(folder_ / "f");
+        fs::rename(folder_ / "f", folder_ / "aside");
+        file.putBack();
+        EXPECT_EQ(readBytes(folder_ / "f"), content);
+        file.writeAt(0, std::string("x"));
+        EXPECT_EQ(readBytes(folder_ / "f", 0, 1), "x");
+        EXPECT_EQ(readBytes(folder_ / "aside"), content) << "what was moved stays as it was";
+    }
+}
+
+TEST_F(FileHandleTest, PuttingBackTakesNoOtherFilesPlaceAndLeavesNoHalf) {
+    writeBytes(folder_ / "f", "0123456789");
+    FileHandle file = FileHandle::open(folder_ / "f");
+    fs::rename(folder_ / "f", folder_ / "aside");
+    writeBytes(folder_ / "f", "another");
+    EXPECT_EQ(errorOf([&] { file.putBack(); }), 58);
+    EXPECT_EQ(readBytes(folder_ / "f"), "another");
+    std::string into(4, '#');
+    EXPECT_EQ(file.readAt(0, into), 4U) << "the open file is still there";
+
+    const SmallDisk disk(64);
+    if (!disk.isMounted()) {
+        GTEST_SKIP() << disk.whyNot();
+    }
+    writeBytes(disk.path() / "f", std::string(20000, 'o'));
+    FileHandle large = FileHandle::open(disk.path() / "f");
+    fs::rename(disk.path() / "f", disk.path() / "aside");
+    disk.fill();
+    EXPECT_EQ(errorOf([&] { large.putBack(); }), 61);
+    EXPECT_FALSE(fs::exists(disk.path() / "f"));
+}
+
 TEST_F(FileHandleTest, WhatOthersAppendIsReadAndKept) {
     writeBytes(folder_ / "f", "0123456789");
     FileHandle file = FileHandle::open(folder_ / "f");

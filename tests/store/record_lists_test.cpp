@@ -102,5 +102,20 @@ TEST_F(RecordLists, AThousandScenesAreListed) {
     EXPECT_EQ(project_.lists.scenes[999], (ListEntry{1000, "Scene 1000", 0}));
 }
 
+TEST(SceneNames, HaveBoundsOfTheirOwn) {
+    ProjectLists lists;
+    EXPECT_EQ(lists.sceneName(1), "");
+    EXPECT_FALSE(lists.renameScene(1, "Hall"));
+    lists.scenes = {{1, "Hall", 0}, {2, "Yard", 0}};
+    EXPECT_EQ(lists.sceneName(2), "Yard");
+    EXPECT_TRUE(lists.renameScene(2, "Garden"));
+    EXPECT_EQ(lists.sceneName(2), "Garden");
+    for (const int number : {-32768, -1, 0, 3, 32767}) {
+        EXPECT_EQ(lists.sceneName(number), "") << number;
+        EXPECT_FALSE(lists.renameScene(number, "x")) << number;
+    }
+    EXPECT_EQ(lists.scenes.size(), 2U);
+}
+
 }  // namespace
 }  // namespace quorvel::store

@@ -112,6 +112,71 @@ TEST_F(SceneStore, AllSlotsFilledComeBack) {
     EXPECT_EQ(scene_.objectCount(), 20);
 }
 
+TEST_F(SceneStore, TwoRecordsOfOneSceneAreTheSameHoweverTheyArePadded) {
+    auto first = newRecord<SceneRecord>();
+    first.SceneName = "Hall";
+    SceneRecord second = first;
+    second.SecurityCode = 99;
+    second.SceneSoundtrack.unset();
+    EXPECT_TRUE(isSameScene(first, second));
+    second = first;
+    second.Reserved201[1] = 1;
+    EXPECT_FALSE(isSameScene(first, second));
+    second = first;
+    second.Slots[19].SlotStr[8] = "x";
+    EXPECT_FALSE(isSameScene(first, second));
+    second = first;
+    second.LinkRightHeight = 409;
+    EXPECT_FALSE(isSameScene(first, second));
+    // QuickSpots are compared as the canvas shows them.
+    first.Slots[0].SlotInt1 = 1;
+    first.Slots[0].SlotInt4To29[25] = 1;
+    first.Slots[0].SlotStr[4] = "5";
+    first.Slots[0].SlotStr[5] = "5";
+    second = first;
+    second.Slots[0].SlotInt4To29[25] = 7;
+    second.Slots[0].SlotStr[4] = "3";
+    EXPECT_TRUE(isSameScene(first, second));
+    second.Slots[0].SlotStr[4] = "6";
+    EXPECT_FALSE(isSameScene(first, second));
+}
+
+TEST_F(SceneStore, ARecordThatOthersWroteIsNoticed) {
+    open(ProjectBuilder().scenes(3));
+    LoadScene(project_, scene_, 2);
+    EXPECT_FALSE(isChangedByOthers(project_));
+    test::patchInt(files_.storePath(1), 4395 + 205, 77);
+    EXPECT_FALSE(isChangedByOthers(project_)) << "a security code is no scene";
+    test::patchBytes(files_.storePath(1), 0, "x");
+    EXPECT_FALSE(isChangedByOthers(project_)) << "another record";
+    for (const std::uintmax_t offset : {0U, 204U, 207U, 4394U}) {
+        test::flipBits(files_.storePath(1), 4395 + offset);
+        EXPECT_TRUE(isChangedByOthers(project_)) << offset;
+        LoadScene(project_, scene_, 2);
+        EXPECT_FALSE(isChangedByOthers(project_));
+    }
+    scene_.header(HeaderString::SceneName) = "Mine";
+    EXPECT_FALSE(isChangedByOthers(project_));
+    SaveScene(project_, scene_, 2);
+    EXPECT_FALSE(isChangedByOthers(project_)) << "it was written here";
+    SaveScene(project_, scene_, 3);
+    EXPECT_FALSE(isChangedByOthers(project_)) << "a copy is no save";
+}
+
+TEST_F(SceneStore, WhatIsNowhereElseIsUnsaved) {
+    open(ProjectBuilder().scenes(2));
+    LoadScene(project_, scene_, 2);
+    EXPECT_FALSE(holdsUnsaved(project_, scene_));
+    scene_.header(HeaderString::SceneName) = "Mine";
+    EXPECT_TRUE(holdsUnsaved(project_, scene_));
+    SaveScene(project_, scene_, 2);
+    EXPECT_FALSE(holdsUnsaved(project_, scene_));
+    scene_.slot(3).SlotInt(36) = 12;
+    EXPECT_TRUE(holdsUnsaved(project_, scene_));
+    project_.sceneFile.close();
+    EXPECT_TRUE(holdsUnsaved(project_, scene_));
+}
+
 TEST_F(SceneStore, BlankScenesAreNewRecordsWithNameAndPicture) {
     open(ProjectBuilder().scenes(1));
     WriteBlankScene(project_, 2, "Hall", "hall.bmp");
