@@ -20,22 +20,70 @@ constexpr std::int16_t kExitPointer = 9;
 
 SceneKeeper::SceneKeeper(store::Project& project, store::Scene& scene, SceneView& view,
                          forms::Boxes& boxes, forms::Traps& traps)
-    : project_(project), scene_(scene), view_(view), boxes_(boxes), traps_(traps) {}
+    : project_(project),
+      scene_(scene),
+      view_(view),
+      boxes_(boxes),
+      traps_(traps),
+      rescue_(project, scene, boxes) {}
 
 SaveOutcome SceneKeeper::SaveScene() {
-    if (!project_.currentSceneStored()) {
-        return SaveOutcome::saved;
+    if (!isSceneStored()) {
+        return SaveOutcome::nothingToSave;
     }
     view_.StoreLinkPlaces();
-    try {
-        store::SaveScene(project_, scene_, project_.CurrentScene);
+    const SaveOutcome outcome = write();
+    canSave_ = outcome == SaveOutcome::saved || outcome == SaveOutcome::nothingToSave;
+    Q_EMIT savingPossible(canSave_);
+    if (outcome == SaveOutcome::saved) {
         forms::letEventsRun();
-        return SaveOutcome::saved;
+    }
+    return outcome;
+}
+
+SaveOutcome SceneKeeper::write() {
+    try {
+        try {
+            return writeOver();
+        } catch (const store::LostFileError& loss) {
+            return writeAfter(loss);
+        }
     } catch (const store::RuntimeError& error) {
         traps_.tellWriteFailure(error);
         return error.code() == store::ErrorNumber::accessError ? SaveOutcome::readOnly
                                                                : SaveOutcome::failed;
     }
+}
+
+SaveOutcome SceneKeeper::writeOver() {
+    if (store::isChangedByOthers(project_)) {
+        if (!holdsUnsaved()) {
+            return SaveOutcome::nothingToSave;
+        }
+        if (!rescue_.mayOverwrite()) {
+            return SaveOutcome::failed;
+        }
+    }
+    store::SaveScene(project_, scene_, project_.CurrentScene);
+    return SaveOutcome::saved;
+}
+
+SaveOutcome SceneKeeper::writeAfter(const store::LostFileError& loss) {
+    const SceneRescue::Way way = rescue_.takeStore(loss);
+    if (way == SceneRescue::Way::stay) {
+        return SaveOutcome::failed;
+    }
+    if (way == SceneRescue::Way::write) {
+        store::SaveScene(project_, scene_, project_.CurrentScene);
+        if (project_.CurrentScene > project_.NumberOfScenes) {
+            project_.NumberOfScenes = project_.CurrentScene;
+            project_.lists.scenes.push_back({project_.CurrentScene, {}, 0});
+        }
+        project_.lists.renameScene(project_.CurrentScene, scene_.header(HeaderString::SceneName));
+    }
+    Q_EMIT scenesRead();
+    Q_EMIT sceneShown(project_.CurrentScene);
+    return way == SceneRescue::Way::write ? SaveOutcome::saved : SaveOutcome::nothingToSave;
 }
 
 void SceneKeeper::LoadScene(int number) {
@@ -65,11 +113,19 @@ std::optional<store::RuntimeError> SceneKeeper::loadPicture() {
 }
 
 void SceneKeeper::showScene() {
+    // A disk that refused one scene refuses the next, until a save succeeds.
+    canSave_ = canSave_ && project_.sceneFile.isWritable();
+    Q_EMIT savingPossible(canSave_);
     const auto failure = loadPicture();
     view_.ShowSceneObjects();
     hold_.reset();
     Q_EMIT sceneShown(project_.CurrentScene);
     tellPicture(failure);
+}
+
+void SceneKeeper::projectClosed() {
+    canSave_ = true;
+    Q_EMIT savingPossible(true);
 }
 
 void SceneKeeper::ShowPicture() {
@@ -101,7 +157,21 @@ bool SceneKeeper::arrive(int number, int wayBack) {
 }
 
 bool SceneKeeper::GoToScene(int number) {
-    return leave() && arrive(number);
+    if (!leave()) {
+        return false;
+    }
+    if (number > project_.NumberOfScenes) {  // the store that was taken has fewer scenes
+        Q_EMIT sceneShown(project_.CurrentScene);
+        return false;
+    }
+    return arrive(number);
+}
+
+void SceneKeeper::takeScenesOfOthers() {
+    if (project_.sceneFile.count() > project_.NumberOfScenes) {
+        project_.ReadSceneList();
+        Q_EMIT scenesRead();
+    }
 }
 
 bool SceneKeeper::writeNewScene(int number, NewScene mode) {
@@ -119,6 +189,9 @@ bool SceneKeeper::writeNewScene(int number, NewScene mode) {
 }
 
 bool SceneKeeper::AddScene(NewScene mode) {
+    if (mode != NewScene::empty && !isSceneStored()) {
+        return false;
+    }
     if (project_.NumberOfScenes >= kMostScenes) {
         boxes_.show({.text = QStringLiteral("A project cannot hold more than %1 scenes.")
                                  .arg(QString::number(kMostScenes)),
@@ -128,6 +201,9 @@ bool SceneKeeper::AddScene(NewScene mode) {
     // That a project is read-only is told once; a scene that is asked for is not left out silently.
     const bool knownReadOnly = project_.ReadOnlyProject;
     if (!leave()) {
+        return false;
+    }
+    if (!traps_.reading(QStringLiteral("ReadSceneList"), [this] { takeScenesOfOthers(); })) {
         return false;
     }
     const int previous = project_.CurrentScene;

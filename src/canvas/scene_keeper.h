@@ -9,6 +9,7 @@
 
 #include <QObject>
 
+#include "canvas/scene_rescue.h"
 #include "canvas/scene_view.h"
 #include "forms/traps.h"
 #include "store/scene_store.h"
@@ -16,7 +17,12 @@
 namespace quorvel::canvas {
 
 /// How a save ended. The author has been told of a failure when it is one.
-enum class SaveOutcome : std::uint8_t { saved, readOnly, failed };
+enum class SaveOutcome : std::uint8_t {
+    saved,
+    nothingToSave,  ///< the scene has no record of its own, or others changed it and the author not
+    readOnly,
+    failed,
+};
 
 /// What an added scene begins as.
 enum class NewScene : std::uint8_t { empty, closeup, exactCopy };
@@ -29,8 +35,15 @@ class SceneKeeper : public QObject {
                 forms::Traps& traps);
 
     /// Writes the scene in memory to its record, the edge links as they stand on the canvas. A
-    /// scene without a record of its own is not written and counts as saved.
+    /// record that others wrote meanwhile, and a store that is not the one that was opened any
+    /// more, are written only when the author agrees.
     SaveOutcome SaveScene();
+
+    /// True when the scene has a record of its own. One without cannot be edited.
+    [[nodiscard]] bool isSceneStored() const { return project_.currentSceneStored(); }
+
+    /// True when the scene in memory, as it was last tried to save, differs from its record.
+    [[nodiscard]] bool holdsUnsaved() const { return store::holdsUnsaved(project_, scene_); }
 
     /// Reads scene `number` into memory and makes it the current one; alerts go off and, unless a
     /// project is being opened, the canvas is emptied. It goes on looking as it did until
@@ -41,17 +54,20 @@ class SceneKeeper : public QObject {
     /// cannot be shown is told when the objects have appeared.
     void showScene();
 
+    /// The project was closed; the next one begins without its failures.
+    void projectClosed();
+
     /// Shows the picture of the scene in memory, or none. One that cannot be shown is told.
     void ShowPicture();
 
     /// Saves the current scene and shows scene `number`. The author stays where the current scene
     /// could not be written, for another reason than that the project is read-only, and where the
-    /// other one could not be read; false then, and the author has been told.
+    /// other one could not be read or was lost meanwhile; false then, and the author has been told.
     bool GoToScene(int number);
 
     /// Saves the current scene, appends a scene to the store and shows it. A closeup's lower edge
     /// link leads back, in memory, to the scene that was current. False when nothing was added; the
-    /// author has been told.
+    /// author has been told. A scene without a record can be followed by an empty one alone.
     bool AddScene(NewScene mode);
 
   Q_SIGNALS:
@@ -61,10 +77,19 @@ class SceneKeeper : public QObject {
     void sceneShown(int number);
     /// The list of scenes has got a last entry.
     void sceneAdded();
+    /// The list of scenes was read anew, for others had changed the store.
+    void scenesRead();
+    /// Whether the scene that is shown can be written, as far as is known.
+    void savingPossible(bool possible);
 
   private:
     /// Saves before leaving; false when the author has to stay.
     bool leave();
+    /// The steps of a save, each with all that may stand in its way.
+    SaveOutcome write();
+    SaveOutcome writeOver();
+    SaveOutcome writeAfter(const store::LostFileError& loss);
+    void takeScenesOfOthers();
     /// Loads and shows scene `number`. With `wayBack` its lower edge link leads to that scene.
     bool arrive(int number, int wayBack = 0);
     bool writeNewScene(int number, NewScene mode);
@@ -77,6 +102,8 @@ class SceneKeeper : public QObject {
     SceneView& view_;
     forms::Boxes& boxes_;
     forms::Traps& traps_;
+    SceneRescue rescue_;
+    bool canSave_ = true;
     std::optional<SceneView::Hold> hold_;  // from loading to showing
 };
 

@@ -1,25 +1,66 @@
 #include "forms/traps.h"
 
+#include "resources/path_text.h"
+
 namespace quorvel::forms {
+namespace {
+
+/// After the words of a failure: what others did to the file, if that is what failed.
+QString reasonOf(const store::RuntimeError& error) {
+    const auto* loss = dynamic_cast<const store::LostFileError*>(&error);
+    return loss == nullptr ? QString() : QStringLiteral("\n\n") + lossText(*loss);
+}
+
+QString numberAndDescription(const store::RuntimeError& error) {
+    return QStringLiteral("%1 / %2").arg(QString::number(error.number()),
+                                         QString::fromStdString(error.description()));
+}
+
+}  // namespace
+
+QString lossText(const store::LostFileError& error) {
+    const QString path = resources::pathText(error.file());
+    switch (error.loss()) {
+        case store::FileLoss::gone:
+            return QStringLiteral(
+                       "This file is not there any more.  It was moved, renamed or "
+                       "deleted while the project was open:\n\n%1")
+                .arg(path);
+        case store::FileLoss::replaced:
+            return QStringLiteral(
+                       "This file is not the one that was opened.  Another one was put "
+                       "in its place while the project was open:\n\n%1")
+                .arg(path);
+        case store::FileLoss::shortened:
+            break;
+    }
+    return QStringLiteral(
+               "A part of this file is missing.  It was cut off while the project was "
+               "open:\n\n%1")
+        .arg(path);
+}
+
+QString writeFailureText(const store::RuntimeError& error) {
+    return QStringLiteral("An unexpected error has occured:\n%1").arg(numberAndDescription(error)) +
+           reasonOf(error);
+}
 
 void Traps::tellReadFailure(const QString& procedure, const store::RuntimeError& error) {
-    boxes_.show({.text = QStringLiteral("Error %1 (%2) in procedure %3 of Module SceneData")
+    const QString text = QStringLiteral("Error %1 (%2) in procedure %3 of Module SceneData")
                              .arg(QString::number(error.number()),
-                                  QString::fromStdString(error.description()), procedure),
-                 .icon = Box::Icon::information});
+                                  QString::fromStdString(error.description()), procedure);
+    boxes_.show({.text = text + reasonOf(error), .icon = Box::Icon::information});
 }
 
 void Traps::tellWriteFailure(const store::RuntimeError& error) {
-    const QString what = QStringLiteral("%1 / %2").arg(QString::number(error.number()),
-                                                       QString::fromStdString(error.description()));
     if (error.code() != store::ErrorNumber::accessError) {
-        boxes_.tell(QStringLiteral("An unexpected error has occured:\n%1").arg(what));
+        boxes_.tell(writeFailureText(error));
         return;
     }
     if (!project_.ReadOnlyProject) {
         boxes_.tell(QStringLiteral("Err #%1\nCould not write data!  Possible cause: Project "
                                    "file(s) attribute set to 'Read Only'.")
-                        .arg(what));
+                        .arg(numberAndDescription(error)));
     }
     project_.ReadOnlyProject = true;
 }

@@ -11,6 +11,12 @@
 
 namespace quorvel::forms {
 
+/// What others did to a file that is open, and which file it is.
+QString lossText(const store::LostFileError& error);
+
+/// The words of a write that failed for another reason than refused access.
+QString writeFailureText(const store::RuntimeError& error);
+
 /// Owned by the shell; boxes and project must outlive it.
 class Traps {
   public:

@@ -65,6 +65,10 @@ void Shell::loadMain() {
                                                     surroundings_.boxes, traps_);
     connect(keeper_.get(), &canvas::SceneKeeper::sceneAdded, &models_.scenes,
             &forms::RecordListModel::append);
+    connect(keeper_.get(), &canvas::SceneKeeper::scenesRead, &models_.scenes,
+            &forms::RecordListModel::refresh);
+    connect(keeper_.get(), &canvas::SceneKeeper::savingPossible, &main_->side(),
+            &SidePanel::showSavingPossible);
     connect(keeper_.get(), &canvas::SceneKeeper::sceneLoading, &main_->status(),
             [this] { main_->status().setCount(QStringLiteral("Objects: ...")); });
     loadPreview();
@@ -146,6 +150,11 @@ void Shell::loadActions() {
             [this] { actions_->RestoreObjs_Click(); });
     connect(keeper_.get(), &canvas::SceneKeeper::sceneShown, side.RestoreObjs,
             [button = side.RestoreObjs] { button->setEnabled(true); });
+    // What cannot be saved is not to be moved, by the alert's questions either.
+    connect(keeper_.get(), &canvas::SceneKeeper::sceneShown, side.ObjAlert,
+            [this, button = side.ObjAlert] {
+                button->setVisible(main_->view().objectAlert() && keeper_->isSceneStored());
+            });
 }
 
 void Shell::InitializeEditor() {
@@ -289,7 +298,11 @@ void Shell::tellOldSettings() {
 }
 
 bool Shell::CloseProject() {
-    if (keeper_->SaveScene() == canvas::SaveOutcome::failed && !isUnattended_ &&
+    const canvas::SaveOutcome outcome = keeper_->SaveScene();
+    const bool loses =
+        (outcome == canvas::SaveOutcome::failed || outcome == canvas::SaveOutcome::readOnly) &&
+        keeper_->holdsUnsaved();
+    if (loses && !isUnattended_ &&
         surroundings_.boxes.show(
             {.text = QStringLiteral("The current scene could not be saved.\n\nDo you want to close "
                                     "the project anyway and lose the changes to this scene?"),
@@ -313,6 +326,7 @@ void Shell::closeShellHalf() {
     main_->side().ObjAlert->hide();
     main_->side().ScnAlert->hide();
     main_->side().RestoreObjs->setEnabled(false);
+    keeper_->projectClosed();
     main_->showProgramTitle();
     main_->side().showSceneNumber(0);
     main_->status().setCount(QStringLiteral("Objects:"));

@@ -45,6 +45,26 @@ QPushButton* alertButton(QWidget* parent, const char* name, const char* caption)
     return button;
 }
 
+/// Dark on amber, in any look.
+QLabel* warningSign(QWidget* parent, const char* name, const char* caption, const char* toolTip) {
+    auto* sign = new QLabel(QString::fromLatin1(caption), parent);
+    sign->setObjectName(QString::fromLatin1(name));
+    sign->setToolTip(QString::fromLatin1(toolTip));
+    sign->setAlignment(Qt::AlignCenter);
+    sign->setWordWrap(true);
+    sign->setMargin(4);
+    sign->setAutoFillBackground(true);
+    QPalette palette = sign->palette();
+    palette.setColor(QPalette::Window, QColor(0xf2, 0xb6, 0x3c));
+    palette.setColor(QPalette::WindowText, QColor(0x20, 0x1a, 0x0c));
+    sign->setPalette(palette);
+    QFont bold = sign->font();
+    bold.setBold(true);
+    sign->setFont(bold);
+    sign->hide();
+    return sign;
+}
+
 }  // namespace
 
 SidePanel::SidePanel(QWidget* parent) : QFrame(parent) {
@@ -73,6 +93,9 @@ SidePanel::SidePanel(QWidget* parent) : QFrame(parent) {
                              "Restore objects to their positions when scene was loaded");
     ObjAlert = alertButton(this, "ObjAlert", "Object Position");
     ScnAlert = alertButton(this, "ScnAlert", "Scene Size");
+    SaveSign = warningSign(this, "SaveSign", "Scene is not saved",
+                           "This scene cannot be saved at the moment: its changes will be lost "
+                           "when you leave it or close the project");
 
     auto* arrows = new QHBoxLayout;
     arrows->setSpacing(4);
@@ -91,6 +114,7 @@ SidePanel::SidePanel(QWidget* parent) : QFrame(parent) {
     column->addSpacing(6);
     column->addWidget(RestoreObjs);
     column->addStretch();
+    column->addWidget(SaveSign);
     column->addWidget(ObjAlert);
     column->addWidget(ScnAlert);
     // Large letters need more than the usual width.
@@ -100,6 +124,10 @@ SidePanel::SidePanel(QWidget* parent) : QFrame(parent) {
 
 void SidePanel::showSceneNumber(int number) {
     CurScene->setText(number == 0 ? QStringLiteral("---") : QString::number(number));
+}
+
+void SidePanel::showSavingPossible(bool possible) {
+    SaveSign->setVisible(!possible);
 }
 
 void SidePanel::disableNavigation() {

@@ -3,6 +3,7 @@
 
 #include <QFrame>
 
+class QLabel;
 class QLineEdit;
 class QPushButton;
 
@@ -22,9 +23,12 @@ class SidePanel : public QFrame {
     QPushButton* RestoreObjs = nullptr;
     QPushButton* ObjAlert = nullptr;
     QPushButton* ScnAlert = nullptr;
+    QLabel* SaveSign = nullptr;  ///< stands there while the scene cannot be saved
 
     /// Shows the number of the current scene, "---" for 0.
     void showSceneNumber(int number);
+    /// Takes the sign away, or puts it up.
+    void showSavingPossible(bool possible);
     /// The navigation as it stands without a project.
     void disableNavigation();
 };

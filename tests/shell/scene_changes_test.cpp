@@ -25,7 +25,7 @@ using SceneChanges = SceneFixture;
 TEST_F(SceneChanges, OneRecordIsWrittenAndOneIsRead) {
     open(ProjectBuilder().scenes(5).object(1, 1, 5, 10, 10));
     // What somebody else does to the other records meanwhile is neither read nor written over.
-    for (int scene = 1; scene <= 5; ++scene) {
+    for (int scene = 2; scene <= 5; ++scene) {
         patchBytes(files.storePath(1), recordAt(scene) + 156, "mark " + std::to_string(scene));
     }
     const std::string first = recordBytes(1);
@@ -193,9 +193,11 @@ TEST_F(SceneChanges, AStoreThatWasDeletedKeepsTheAuthorAndHisWork) {
     open(ProjectBuilder().scenes(2).object(1, 4, 5, 100, 100));
     carry({110, 110}, {210, 210});
     std::filesystem::remove(files.storePath(1));
+    boxes.answer(forms::Answer::no);
     next();
-    EXPECT_EQ(boxes.texts(),
-              QStringList{QStringLiteral("An unexpected error has occured:\n53 / File not found")});
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_TRUE(boxes.texts().front().startsWith(
+        QStringLiteral("An unexpected error has occured:\n53 / File not found")));
     EXPECT_EQ(current(), 1);
     EXPECT_EQ(slot(4).SlotInt(2), 200);
 }
