@@ -52,8 +52,8 @@ bool isObject(const SceneElement& element) {
 
 }  // namespace
 
-Dragging::Dragging(SceneView& view)
-    : QObject(&view), view_(view), ghost_(new DragGhost(&view.canvas())) {
+Dragging::Dragging(SceneView& view, const store::Project& project)
+    : QObject(&view), view_(view), project_(project), ghost_(new DragGhost(&view.canvas())) {
     for (SceneElement* element : view.movableElements()) {
         element->installEventFilter(this);
     }
@@ -65,7 +65,7 @@ bool Dragging::eventFilter(QObject* watched, QEvent* event) {
         return whileCarrying(*watched, *event);
     }
     auto* element = qobject_cast<SceneElement*>(watched);
-    if (element == nullptr) {
+    if (element == nullptr || !project_.currentSceneStored()) {
         return false;
     }
     switch (event->type()) {

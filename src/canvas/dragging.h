@@ -19,7 +19,8 @@ class DragGhost;
 class Dragging : public QObject {
     Q_OBJECT
   public:
-    explicit Dragging(SceneView& view);
+    /// Both must outlive it. Nothing can be moved in a scene that has no record of its own.
+    Dragging(SceneView& view, const store::Project& project);
 
     // The drag that is under way.
     int DraggingObject = 0;  ///< 1 while an object is carried; stays 0 for a link
@@ -57,6 +58,7 @@ class Dragging : public QObject {
     bool keyPressed(SceneElement& element, QEvent& event);
 
     SceneView& view_;
+    const store::Project& project_;
     SceneElement* carried_ = nullptr;
     DragGhost* ghost_;
 };

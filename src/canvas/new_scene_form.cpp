@@ -26,6 +26,10 @@ NewScenefrm::NewScenefrm(SceneKeeper& keeper, const std::function<void()>& help,
         options->addWidget(options_[i]);
     }
     options_.front()->setChecked(true);
+    // Of a scene without a record there is nothing to begin with.
+    for (std::size_t i = 1; i < options_.size(); ++i) {
+        options_[i]->setEnabled(keeper_.isSceneStored());
+    }
 
     QVBoxLayout* column = makeColumn();
     column->addWidget(frame);

@@ -32,7 +32,7 @@ PopupMenu menuOf(ObjectType type) {
 }  // namespace
 
 ObjectActions::ObjectActions(const House& house)
-    : house_(house), dragging_(house.view), menus_(nullptr) {
+    : house_(house), dragging_(house.view, house.project), menus_(nullptr) {
     connect(&menus_, &menus::chosen, this, &ObjectActions::answer);
     for (SceneElement* element : house_.view.movableElements()) {
         element->installEventFilter(this);
@@ -94,7 +94,9 @@ void ObjectActions::openObjectMenu(int k, QPoint screen) {
     }
     const PopupMenu menu = menuOf(type);
     prepareObjectJumps(slot, menu);
-    menus_.setAvailable(menu, PopupAction::properties, editors_.contains(type));
+    const bool stored = house_.project.currentSceneStored();
+    menus_.setAvailable(menu, PopupAction::properties, stored && editors_.contains(type));
+    menus_.setAvailable(menu, PopupAction::remove, stored);
     menus_.open(menu, screen, house_.view.window()->windowHandle());
 }
 
@@ -120,7 +122,9 @@ void ObjectActions::openLinkMenu(int n, QPoint screen) {
     PopupObject = n;
     prepareJump(PopupMenu::link, PopupAction::jump,
                 house_.scene.link(static_cast<store::LinkSide>(n)).target);
-    menus_.setAvailable(PopupMenu::link, PopupAction::properties, linkEditor_ != nullptr);
+    const bool stored = house_.project.currentSceneStored();
+    menus_.setAvailable(PopupMenu::link, PopupAction::properties, stored && linkEditor_ != nullptr);
+    menus_.setAvailable(PopupMenu::link, PopupAction::resizeLink, stored);
     menus_.open(PopupMenu::link, screen, house_.view.window()->windowHandle());
 }
 
@@ -132,19 +136,17 @@ void ObjectActions::openSceneMenu(QPoint screen, QPoint at) {
     menus_.open(PopupMenu::scene, screen, house_.view.window()->windowHandle());
 }
 
-void ObjectActions::setSceneEntries(bool projectOpen, bool roomForObject) {
+void ObjectActions::setSceneEntries(bool sceneStored, bool roomForObject) {
     menus_.setAvailable(PopupMenu::scene, PopupAction::properties,
-                        projectOpen && sceneEditor_ != nullptr);
-    menus_.setAvailable(PopupMenu::scene, PopupAction::insertObject, projectOpen && roomForObject);
+                        sceneStored && sceneEditor_ != nullptr);
+    menus_.setAvailable(PopupMenu::scene, PopupAction::insertObject, sceneStored && roomForObject);
 }
 
 QString ObjectActions::sceneText(int number) const {
     if (number < 1 || number > house_.project.NumberOfScenes) {
         return {};
     }
-    const store::ListEntry& entry =
-        house_.project.lists.scenes[static_cast<std::size_t>(number - 1)];
-    return QString::fromStdString(store::listText(entry.number, entry.name));
+    return QString::fromStdString(store::listText(number, house_.project.lists.sceneName(number)));
 }
 
 void ObjectActions::prepareJump(PopupMenu menu, PopupAction jump, int target) {

@@ -51,8 +51,9 @@ class ObjectActions : public QObject {
     void registerLinkEditor(std::function<void()> editor) { linkEditor_ = std::move(editor); }
     void registerSceneEditor(std::function<void()> editor) { sceneEditor_ = std::move(editor); }
 
-    /// Whether the scene's own menu offers its properties and an insertion.
-    void setSceneEntries(bool projectOpen, bool roomForObject);
+    /// Whether the scene's own menu offers its properties and an insertion. The menus of its
+    /// objects and links ask for themselves: a scene without a record of its own is not edited.
+    void setSceneEntries(bool sceneStored, bool roomForObject);
 
     /// Opens the editor of object `PopupObject` by its type code; codes above 9, and types without
     /// an editor, do nothing.

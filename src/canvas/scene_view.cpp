@@ -262,9 +262,7 @@ void SceneView::setObjectAlert(bool on) {
 }
 
 QString SceneView::sceneName(int number) const {
-    const auto& scenes = project_.lists.scenes;
-    const auto found = std::ranges::find(scenes, number, &store::ListEntry::number);
-    return found == scenes.end() ? QString() : QString::fromStdString(found->name);
+    return QString::fromStdString(project_.lists.sceneName(number));
 }
 
 QString SceneView::linkText(const SceneElement& element) const {

@@ -241,10 +241,10 @@ void sceneimage::filled() {
 
 void sceneimage::stored() {
     const groups::Tools& tools = sheet().tools();
-    const int row = tools.project.CurrentScene - 1;
-    tools.project.lists.scenes[static_cast<std::size_t>(row)].name =
-        house_.scene.header(HeaderString::SceneName);
-    tools.lists.scenes.renamed(row);
+    const int number = tools.project.CurrentScene;
+    if (tools.project.lists.renameScene(number, house_.scene.header(HeaderString::SceneName))) {
+        tools.lists.scenes.renamed(number - 1);
+    }
     house_.keeper.ShowPicture();
     forms::letEventsRun();
 }

@@ -43,7 +43,7 @@ constexpr std::array kMenuEntries = {
     MenuEntry{"projmen", 12, "Project Security", projectSecurity, A::project},
     MenuEntry{"projmen", 13, "View/ Edit Project In&fo", projectInfo, A::project},
 
-    MenuEntry{"scnmen", 1, "Scene &Properties", sceneProperties, A::project},
+    MenuEntry{"scnmen", 1, "Scene &Properties", sceneProperties, A::scene},
     MenuEntry{"scnmen", 2, "-", none, A::never, K::separator},
     MenuEntry{"scnmen", 3, "Insert New &Object", insertObject, A::roomForObject},
 
@@ -97,7 +97,7 @@ constexpr std::array kToolPositions = {
                  "project-reports", projectReports, A::project, K::hidden},
     ToolPosition{21, "", "", "", none, A::never, K::separator},
     ToolPosition{22, "scnproperts", "Scene Properties",
-                 "scene-properties", sceneProperties, A::project},
+                 "scene-properties", sceneProperties, A::scene},
     ToolPosition{23, "newob", "Insert New Object", "insert-object", insertObject, A::roomForObject},
     ToolPosition{24, "", "", "", none, A::never, K::separator},
     ToolPosition{25, "runPlayer", "Run Quorvel Player", "run-player", runPlayerByButton, A::project},

@@ -56,7 +56,8 @@ enum class Availability : std::uint8_t {
     always,
     never,
     project,        ///< while a project is open
-    roomForObject,  ///< while the scene holds fewer than 20 objects
+    scene,          ///< while the scene that is shown has a record of its own
+    roomForObject,  ///< as `scene`, while it holds fewer than 20 objects
     recentProject,  ///< where the recent list has a project
     tool,           ///< where the Run menu has a program
 };

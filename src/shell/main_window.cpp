@@ -160,8 +160,10 @@ bool Main::isTime(const Entry& entry, const CommandState& state,
             return false;
         case Availability::project:
             return state.projectOpen;
+        case Availability::scene:
+            return state.sceneStored;
         case Availability::roomForObject:
-            return state.projectOpen && state.roomForObject;
+            return state.sceneStored && state.roomForObject;
         case Availability::recentProject:
             return settings.hasRecent(recentNumber(entry.command));
         case Availability::tool:

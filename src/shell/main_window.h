@@ -26,6 +26,7 @@ namespace quorvel::shell {
 /// Windows and routines that the commands depend on.
 struct CommandState {
     bool projectOpen = false;
+    bool sceneStored = false;  ///< the scene that is shown has a record of its own
     bool roomForObject = false;
     std::set<Command> available;  ///< commands that somebody answers
 };

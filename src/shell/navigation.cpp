@@ -80,9 +80,8 @@ void Navigation::Combo1_Click(int row) {
         return;
     }
     if (row == project.CurrentScene) {
-        const std::string& name = project.lists.scenes[static_cast<std::size_t>(row - 1)].name;
         tell(QStringLiteral("Scene '%1' is the scene currently being displayed!")
-                 .arg(QString::fromStdString(name)));
+                 .arg(QString::fromStdString(project.lists.sceneName(row))));
         return;
     }
     if (!house_.keeper.GoToScene(row)) {

@@ -53,12 +53,13 @@ void Shell::runCommand(Command command) {
 void Shell::refreshCommands() {
     CommandState state;
     state.projectOpen = project_.ProjectOpen && !project_.ProjectLoading;
+    state.sceneStored = state.projectOpen && project_.currentSceneStored();
     state.roomForObject = objectCount_ < store::kSlotCount;
     for (const auto& [command, answer] : answers_) {
         state.available.insert(command);
     }
     main_->applyCommandState(state, settings_);
-    actions_->setSceneEntries(state.projectOpen, state.roomForObject);
+    actions_->setSceneEntries(state.sceneStored, state.roomForObject);
 }
 
 void Shell::ToggleAnimations(bool on) {

@@ -197,6 +197,18 @@ TEST_F(SceneEditor, APictureThatCannotBeShownIsToldAndTheRestIsSaved) {
     EXPECT_EQ(scene().header(HeaderString::SceneImage), "gone.gif");
 }
 
+TEST_F(SceneEditor, ANameThatNoListHasIsStoredAllTheSame) {
+    openGame();
+    shell->project().lists.scenes.clear();
+    editScene([](const Hand& hand) {
+        hand.type("Text2", QStringLiteral("Renamed"));
+        hand.click("Command1");
+        hand.click("Command4");
+    });
+    EXPECT_EQ(shell->scene().header(HeaderString::SceneName), "Renamed");
+    EXPECT_TRUE(shell->project().lists.scenes.empty());
+}
+
 TEST_F(SceneEditor, NumbersBeyond16BitsAreToldAndNothingIsStored) {
     openGame();
     const store::Scene before = scene();
