@@ -299,9 +299,8 @@ void Shell::tellOldSettings() {
 
 bool Shell::CloseProject() {
     const canvas::SaveOutcome outcome = keeper_->SaveScene();
-    const bool loses =
-        (outcome == canvas::SaveOutcome::failed || outcome == canvas::SaveOutcome::readOnly) &&
-        keeper_->holdsUnsaved();
+    const bool loses = outcome == canvas::SaveOutcome::failed ||
+                       (outcome == canvas::SaveOutcome::readOnly && keeper_->holdsUnsaved());
     if (loses && !isUnattended_ &&
         surroundings_.boxes.show(
             {.text = QStringLiteral("The current scene could not be saved.\n\nDo you want to close "
