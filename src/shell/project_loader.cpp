@@ -185,7 +185,7 @@ bool ProjectLoader::ClearReadOnly(const fs::path& path) {
         if (path.empty()) {
             clearFixedSet(step);
         } else {
-            store::clearReadOnlyAttribute(path);
+            store::clearReadOnlyAttribute(path, house_.project.folder());
         }
         return true;
     } catch (const store::RuntimeError& error) {
@@ -204,12 +204,13 @@ void ProjectLoader::clearFixedSet(QString& step) {
         std::error_code error;
         // The card store alone may be missing; its reader makes it.
         if (number < 5 || fs::exists(store, error)) {
-            store::clearReadOnlyAttribute(store);
+            store::clearReadOnlyAttribute(store, project.folder());
         }
     }
     const auto clearFolder = [&](const char* name, const char* folder) {
         step = QString::fromLatin1(name);
-        store::clearReadOnlyAttribute(store::resolvePath(project.folder(), folder));
+        store::clearReadOnlyAttribute(store::resolvePath(project.folder(), folder),
+                                      project.folder());
     };
     clearFolder("Resource Folder", "resource");
     clearFolder("Resource/GFX Folder", "resource/gfx");

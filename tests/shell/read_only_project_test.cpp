@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "support/mounts.h"
+#include "support/other_user.h"
 #include "support/windows/shell_fixture.h"
 
 namespace quorvel::test {
@@ -17,6 +18,10 @@ const QString kWarning = QStringLiteral(
     "changes you make to your project from being be saved, and can cause Project Security failures "
     "(if on).\n\nIf this project is on a CD-ROM or other non-writable media, you may browse the "
     "project.  However, you must copy it to your hard drive if you wish to make any changes.\n");
+QString refused(const char* step) {
+    return QStringLiteral("Error 75 :Path/File access error / Line = ") + QLatin1String(step);
+}
+const QString kProjectFile = refused("Project File");
 const QString kDiskFull = QStringLiteral("An unexpected error has occured:\n61 / Disk full");
 
 class ReadOnlyProject : public ShellFixture {
@@ -82,33 +87,115 @@ TEST_F(ReadOnlyProject, ADiscOpensWithItsWarningAndClosesAsItWas) {
         GTEST_SKIP() << disc.whyNot();
     }
     start({text(files.projectPath())});
-    EXPECT_EQ(boxes.texts(), QStringList{kWarning});
-    EXPECT_EQ(boxes.shown()[0].title, kWarningTitle);
-    EXPECT_EQ(boxes.shown()[0].icon, Box::Icon::exclamation);
+    EXPECT_EQ(boxes.texts(), (QStringList{kProjectFile, refused("Quorvel1.dat"), kWarning}))
+        << "the box of attributes once for each call";
+    EXPECT_EQ(boxes.shown()[2].title, kWarningTitle);
+    EXPECT_EQ(boxes.shown()[2].icon, Box::Icon::exclamation);
     EXPECT_TRUE(shell->project().ProjectOpen);
     EXPECT_TRUE(shell->project().ReadOnlyProject);
     action(QStringLiteral("Filemen(3)")).trigger();
-    EXPECT_EQ(boxes.shown().size(), 1U) << "once for each project";
+    EXPECT_EQ(boxes.shown().size(), 3U) << "that nothing was saved is known";
     EXPECT_FALSE(shell->project().ProjectOpen);
     EXPECT_FALSE(shell->project().ReadOnlyProject);
     EXPECT_EQ(differences(before, snapshotOf(projects.path())), "");
 }
 
-TEST_F(ReadOnlyProject, ADiscWhoseAttributesAreSetSaysSoForBothCalls) {
+TEST_F(ReadOnlyProject, ADiscInOneFolderIsNamedByItsFolder) {
     const TestProject files = full().build(projects.path());
-    fs::create_directory(projects / "Saved");
-    makeReadOnly(files.projectPath());
-    makeReadOnly(files.storePath(3));
-    const ReadOnlyMount disc(projects.path());
+    const ReadOnlyMount disc(projects / "resource/mmedia");
     if (!disc.isMounted()) {
         GTEST_SKIP() << disc.whyNot();
     }
     start({text(files.projectPath())});
-    EXPECT_EQ(boxes.texts(),
-              (QStringList{QStringLiteral("Error 75 :Path/File access error / Line = Project File"),
-                           QStringLiteral("Error 75 :Path/File access error / Line = Quorvel3.dat"),
-                           kWarning}));
+    EXPECT_EQ(boxes.texts(), (QStringList{refused("Resource/MMedia Folder"), kWarning}));
     EXPECT_TRUE(shell->project().ProjectOpen);
+    EXPECT_TRUE(shell->project().ReadOnlyProject);
+}
+
+// Rights and owners, which count for a user without the administrator's powers
+
+class ReadOnlyForAUser : public ReadOnlyProject {
+  protected:
+    /// The editor as a user who owns the whole project; `change` then changes it.
+    void openAfter(const std::function<void(const TestProject&)>& change) {
+        const TestProject files = full().build(projects.path());
+        OtherUser::own(home.path());
+        OtherUser::own(projects.path());
+        change(files);
+        before = snapshotOf(projects.path());
+        author.emplace();
+        if (author->isPlayed()) {
+            start({text(files.projectPath())});
+        }
+    }
+    void TearDown() override {
+        if (shell && author && author->isPlayed()) {
+            leave();
+            EXPECT_EQ(differences(before, snapshotOf(projects.path())), "");
+        }
+        author.reset();
+    }
+    FolderSnapshot before;
+    std::optional<OtherUser> author;
+};
+
+TEST_F(ReadOnlyForAUser, HisOwnRightsAreGivenBack) {
+    openAfter([](const TestProject& files) {
+        makeReadOnly(files.projectPath());
+        makeReadOnly(files.storePath(1));
+        makeReadOnly(files.folder / "resource/gfx");
+    });
+    if (!author->isPlayed()) {
+        GTEST_SKIP() << author->whyNot();
+    }
+    EXPECT_TRUE(boxes.shown().empty()) << boxes.texts().join(u'|').toStdString();
+    EXPECT_FALSE(shell->project().ReadOnlyProject);
+}
+
+TEST_F(ReadOnlyForAUser, AnothersFolderIsReadOnly) {
+    openAfter([](const TestProject& files) {
+        OtherUser::leave(files.folder / "resource/gfx");
+        OtherUser::leave(files.projectPath());
+    });
+    if (!author->isPlayed()) {
+        GTEST_SKIP() << author->whyNot();
+    }
+    EXPECT_EQ(boxes.texts(), (QStringList{kProjectFile, refused("Resource/GFX Folder"), kWarning}));
+    EXPECT_TRUE(shell->project().ProjectOpen);
+    EXPECT_TRUE(shell->project().ReadOnlyProject);
+}
+
+TEST_F(ReadOnlyForAUser, ModesThatLetEverybodyWriteAreEnough) {
+    openAfter([](const TestProject& files) {
+        for (const fs::path& path : {files.storePath(3), files.folder / "resource/mmedia"}) {
+            OtherUser::leave(path);
+            fs::permissions(path, fs::perms::others_write, fs::perm_options::add);
+        }
+    });
+    if (!author->isPlayed()) {
+        GTEST_SKIP() << author->whyNot();
+    }
+    EXPECT_TRUE(boxes.shown().empty()) << boxes.texts().join(u'|').toStdString();
+    EXPECT_FALSE(shell->project().ReadOnlyProject);
+}
+
+// Links out of the project
+
+TEST_F(ReadOnlyProject, OpeningChangesNoRightsBehindLinks) {
+    const TempFolder elsewhere;
+    const TestProject files = full().build(projects.path());
+    const fs::path store = elsewhere / "store.dat";
+    fs::rename(files.storePath(2), store);
+    fs::create_symlink(store, projects / "resource/Quorvel2.dat");
+    const fs::path media = elsewhere.makeFolder("media");
+    fs::remove(projects / "resource/mmedia");
+    fs::create_directory_symlink(media, projects / "resource/mmedia");
+    makeReadOnly(store);
+    makeReadOnly(media);
+    start({text(files.projectPath())});
+    EXPECT_TRUE(shell->project().ProjectOpen);
+    EXPECT_TRUE(isReadOnly(store));
+    EXPECT_TRUE(isReadOnly(media));
 }
 
 TEST_F(ReadOnlyProject, ASavedFolderThatStaysReadOnlyIsToldButDoesNotCount) {
@@ -135,7 +222,7 @@ TEST_F(ReadOnlyProject, TheNextProjectIsNotReadOnly) {
         GTEST_SKIP() << mount.whyNot();
     }
     start({text(disc.projectPath()), text(usual.projectPath())});
-    EXPECT_EQ(boxes.texts(), QStringList{kWarning});
+    EXPECT_EQ(boxes.texts(), (QStringList{kProjectFile, refused("Quorvel1.dat"), kWarning}));
     EXPECT_TRUE(shell->project().ProjectOpen);
     EXPECT_FALSE(shell->project().ReadOnlyProject);
 }
