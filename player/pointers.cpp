@@ -70,10 +70,10 @@ QCursor pointerFromFile(const std::filesystem::path& file) {
     if (!picture->ok() || image.width() > kLargestSide || image.height() > kLargestSide) {
         return Qt::ArrowCursor;
     }
-    QFile bytes(resources::pathText(file));
+    QFile bytes;
     constexpr qint64 kHeader = 22;  // of the file and of its first picture
     const QPoint at =
-        bytes.open(QIODevice::ReadOnly) ? hotSpotOf(bytes.read(kHeader)) : QPoint(0, 0);
+        resources::openToRead(bytes, file) ? hotSpotOf(bytes.read(kHeader)) : QPoint(0, 0);
     return QCursor(QPixmap::fromImage(image), std::min(at.x(), image.width() - 1),
                    std::min(at.y(), image.height() - 1));
 }

@@ -53,7 +53,7 @@ std::optional<QString> FileChoice::choose(const FileField& field) {
     if (chosen.isEmpty()) {
         return std::nullopt;
     }
-    const fs::path file = store::pathOf(chosen.toStdString());
+    const fs::path file = resources::pathOf(chosen);
     remember(field.folder, file.parent_path());
     const QString name = resources::pathText(file.filename());
     if (!intake_.CheckFileName(name) ||

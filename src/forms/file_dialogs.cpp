@@ -5,6 +5,8 @@
 #include <QFileDialog>
 #include <QStringList>
 
+#include "forms/readable_folder.h"
+
 namespace quorvel::forms {
 
 QString toolkitFilter(const QString& filter) {
@@ -20,16 +22,17 @@ QString toolkitFilter(const QString& filter) {
 }
 
 QString SystemFileDialogs::openFile(const FileQuestion& question) {
-    return QFileDialog::getOpenFileName(QApplication::activeWindow(), question.title,
-                                        QDir(question.folder).filePath(question.fileName),
-                                        toolkitFilter(question.filter));
+    const ReadableFolder folder(question.folder);
+    return folder.real(QFileDialog::getOpenFileName(QApplication::activeWindow(), question.title,
+                                                    QDir(folder.path()).filePath(question.fileName),
+                                                    toolkitFilter(question.filter)));
 }
 
 QString SystemFileDialogs::chooseFolder(const FileQuestion& question) {
     // Files are shown, so that the author sees whether a folder is empty.
-    QString folder = QFileDialog::getExistingDirectory(
-        QApplication::activeWindow(), question.title,
-        question.folder.isEmpty() ? QDir::homePath() : question.folder, QFileDialog::Options());
+    const ReadableFolder start(question.folder.isEmpty() ? QDir::homePath() : question.folder);
+    QString folder = start.real(QFileDialog::getExistingDirectory(
+        QApplication::activeWindow(), question.title, start.path(), QFileDialog::Options()));
     if (!folder.isEmpty() && !folder.endsWith(QLatin1Char('/'))) {
         folder += QLatin1Char('/');
     }

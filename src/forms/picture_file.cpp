@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "resources/path_text.h"
+
 namespace quorvel::forms {
 namespace {
 
@@ -115,11 +117,11 @@ void GifBlocks::endBlock() {
     loops_ = piece.starts_with("NETSCAPE");
 }
 
-PictureFile::PictureFile(const std::filesystem::path& file) : file_(file) {}
+PictureFile::PictureFile(const std::filesystem::path& file) : path_(file) {}
 
 bool PictureFile::open() {
     constexpr qint64 kSignature = 6;
-    if (!file_.open(QIODevice::ReadOnly)) {
+    if (!resources::openToRead(file_, path_)) {
         return false;
     }
     const QByteArray signature = file_.peek(kSignature);

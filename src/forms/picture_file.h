@@ -74,6 +74,7 @@ class PictureFile : public QIODevice {
     qint64 writeData(const char* data, qint64 most) override;
 
   private:
+    std::filesystem::path path_;
     QFile file_;
     GifBlocks blocks_;
     bool isGif_ = false;

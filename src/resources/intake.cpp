@@ -14,10 +14,6 @@ namespace fs = std::filesystem;
 using store::ResourceFolder;
 using What = IntakeNotice::What;
 
-fs::path pathOf(const QString& text) {
-    return store::pathOf(text.toStdString());
-}
-
 /// The same place, however it is written.
 bool samePlace(const fs::path& a, const fs::path& b) {
     std::error_code error;
@@ -161,8 +157,7 @@ bool Intake::CheckReplace(const fs::path& target) {
     std::error_code error;
     const std::string name = store::textOf(target.filename());
     const fs::path found = store::resolvePath(target.parent_path(), name);
-    return !fs::exists(fs::symlink_status(found, error)) ||
-           questions_.mayReplace(QString::fromStdString(name));
+    return !fs::exists(fs::symlink_status(found, error)) || questions_.mayReplace(bytesText(name));
 }
 
 bool Intake::copy(const Way& way) {

@@ -1,6 +1,7 @@
 #include "resources/player_file.h"
 
 #include "resources/file_names.h"
+#include "resources/path_text.h"
 #include "resources/safe_copy.h"
 #include "store/paths.h"
 #include "store/runtime_error.h"
@@ -24,7 +25,7 @@ fs::path playerPath(const store::Project& project) {
 }
 
 fs::path defaultPlayerPath(const QString& installPath) {
-    return store::resolvePath(store::pathOf(installPath.toStdString()),
+    return store::resolvePath(pathOf(installPath),
                               "QuorvelDefaults/" + kDefaultPlayerName.toStdString());
 }
 

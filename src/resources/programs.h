@@ -19,7 +19,8 @@ class Programs {
     virtual bool start(const QString& commandLine) = 0;
 
     /// The same for a program by its path, with arguments as they are, in the working folder
-    /// `folder`.
+    /// `folder`, which ends in a separator. Program, folder and arguments may be texts of paths
+    /// that are no valid text (`path_text.h`), but only below `folder`.
     virtual bool run(const QString& program, const QStringList& arguments,
                      const QString& folder) = 0;
 

@@ -39,9 +39,9 @@ template <class Routine>
 auto withFile(const fs::path& path, Routine routine) {
     using Result = decltype(routine(std::declval<const ByteSource&>()));
     std::error_code error;
-    QFile file(pathText(path));
+    QFile file;
     // Opened for reading alone: a player that runs at the moment is never disturbed.
-    if (!fs::is_regular_file(path, error) || !file.open(QIODevice::ReadOnly)) {
+    if (!fs::is_regular_file(path, error) || !openToRead(file, path)) {
         return Result{};
     }
     const ByteSource source(static_cast<std::uintmax_t>(file.size()),

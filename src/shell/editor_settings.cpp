@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "resources/path_text.h"
 #include "store/numbers.h"
 
 namespace quorvel::shell {
@@ -34,7 +35,7 @@ void EditorSettings::GetEditorSettings() {
     TipsAtStart = ReadRegValue(QStringLiteral("TOTD"));
     LastTip = number(ReadRegValue(QStringLiteral("LastTip")));
     for (std::size_t i = 0; i < RecentProj.size(); ++i) {
-        RecentProj[i] = ReadRegValue(numbered("RecentProj ", i));
+        RecentProj[i] = resources::fromStoredPath(ReadRegValue(numbered("RecentProj ", i)));
     }
     for (std::size_t i = 0; i < RunProgram.size(); ++i) {
         RunProgram[i] = ReadRegValue(numbered("Run-Menu/Program ", i));
@@ -48,7 +49,7 @@ void EditorSettings::SaveEditorSettings() {
     WriteRegValue(QStringLiteral("TOTD"), TipsAtStart);
     WriteRegValue(QStringLiteral("LastTip"), QString::number(LastTip));
     for (std::size_t i = 0; i < RecentProj.size(); ++i) {
-        WriteRegValue(numbered("RecentProj ", i), RecentProj[i]);
+        WriteRegValue(numbered("RecentProj ", i), resources::storedPath(RecentProj[i]));
     }
     for (std::size_t i = 0; i < RunProgram.size(); ++i) {
         WriteRegValue(numbered("Run-Menu/Program ", i), RunProgram[i]);

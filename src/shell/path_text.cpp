@@ -1,12 +1,24 @@
 #include "shell/path_text.h"
 
+#include <filesystem>
+#include <system_error>
+
 #include <QDir>
-#include <QFileInfo>
 
 #include "resources/path_text.h"
 #include "store/paths.h"
 
 namespace quorvel::shell {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A path with "/" between its steps.
+QString asText(const fs::path& path) {
+    return QDir::fromNativeSeparators(resources::pathText(path));
+}
+
+}  // namespace
 
 QString ShrinkPath(const QString& path) {
     constexpr int kLongest = 50;
@@ -17,18 +29,21 @@ QString ShrinkPath(const QString& path) {
 }
 
 QString GetLongFileName(const QString& path) {
-    return QFileInfo(path).canonicalFilePath();
+    std::error_code error;
+    const fs::path full = fs::canonical(resources::pathOf(path), error);
+    return error ? QString() : asText(full);
 }
 
 SplitPath splitPath(const QString& path) {
     QString spelt = QDir::fromNativeSeparators(path);
     // A backslash may be a letter of a name here, so what bears that very name comes first.
     const bool spellsFreely = QDir::separator() == QLatin1Char('/');
-    if (spellsFreely && !spelt.isEmpty() && !QFileInfo::exists(spelt)) {
+    std::error_code error;
+    if (spellsFreely && !spelt.isEmpty() && !fs::exists(resources::pathOf(spelt), error)) {
         const auto isSeparator = [](QChar c) { return c == u'/' || c == u'\\'; };
         const bool fromRoot = isSeparator(spelt.front());
         const bool isFolder = isSeparator(spelt.back());
-        const auto found = store::resolvePath(fromRoot ? "/" : ".", spelt.toStdString());
+        const auto found = store::resolvePath(fromRoot ? "/" : ".", resources::pathBytes(spelt));
         spelt = resources::pathText(found);
         if (isFolder) {
             spelt += QLatin1Char('/');

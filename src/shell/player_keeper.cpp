@@ -153,7 +153,7 @@ bool PlayerKeeper::startPlayer() {
     try {
         const fs::path player = resources::playerPath(house_.project);
         const QString path = resources::pathText(player);
-        const QString folder = QString::fromStdString(house_.project.ProjectFolder);
+        const QString folder = resources::bytesText(house_.project.ProjectFolder);
         if (!resources::FileExists(path)) {
             return false;
         }

@@ -46,9 +46,9 @@ bool ProjectCreator::CreateProject(const QString& folder, const QString& name) {
     project.ProjectLoading = true;
     told_ = false;
     try {
-        project.ProjectFolder = withSeparator(folder).toStdString();
+        project.ProjectFolder = resources::pathBytes(withSeparator(folder));
         project.ProjectFileName = (name + QStringLiteral(".qvl")).toStdString();
-        house_.main.showProjectFolder(QString::fromStdString(project.ProjectFolder));
+        house_.main.showProjectFolder(resources::bytesText(project.ProjectFolder));
         checkName(name);
         step_ = QStringLiteral("Making the folders");
         store::makeProjectFolders(project);

@@ -5,6 +5,7 @@
 #include <QComboBox>
 
 #include "forms/events.h"
+#include "resources/path_text.h"
 #include "store/file_attributes.h"
 #include "store/paths.h"
 #include "store/security.h"
@@ -156,7 +157,7 @@ bool ProjectLoader::runReader(const QString& procedure, const QString& status,
 
 bool ProjectLoader::ReadProjectLists(LoadProgress& progress) {
     store::Project& project = house_.project;
-    house_.main.showProjectFolder(QString::fromStdString(project.ProjectFolder));
+    house_.main.showProjectFolder(resources::bytesText(project.ProjectFolder));
     letEventsRun();
     const auto text = [](const char* latin) { return QString::fromLatin1(latin); };
     const bool all =

@@ -3,12 +3,12 @@
 #include <utility>
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 
 #include "forms/events.h"
+#include "resources/path_text.h"
 #include "shell/install_path.h"
 #include "shell/open_project.h"
 #include "shell/path_text.h"
@@ -208,7 +208,7 @@ void Shell::ChooseProject() {
 void Shell::openRecent(int number) {
     const QString path = settings_.RecentProj.at(static_cast<std::size_t>(number - 1));
     const SplitPath split = splitPath(path);
-    if (!QFileInfo(split.folder + split.name).isFile()) {
+    if (!resources::FileExists(split.folder + split.name)) {
         surroundings_.boxes.show(
             {.text = QStringLiteral("Could not locate:\n\n%1\n\nIf this is on a removable disk, "
                                     "please\nmake sure the disk is inserted in the drive.")
@@ -232,8 +232,8 @@ bool Shell::openProject(const QString& path) {
     if (!full.isEmpty()) {
         split.folder = full.endsWith(QLatin1Char('/')) ? full : full + QLatin1Char('/');
     }
-    project_.ProjectFolder = split.folder.toStdString();
-    project_.ProjectFileName = split.name.toStdString();
+    project_.ProjectFolder = resources::pathBytes(split.folder);
+    project_.ProjectFileName = resources::pathBytes(split.name);
     showRequestedProject();
     return project_.ProjectOpen;
 }
@@ -244,7 +244,7 @@ void Shell::showRequestedProject() {
         {.load = [this](LoadProgress& progress) { return loader_->GetProjData(progress); },
          .afterLoad = [this] { afterLoad(); }},
         main_.get());
-    main_->showProjectFolder(QString::fromStdString(project_.ProjectFolder));
+    main_->showProjectFolder(resources::bytesText(project_.ProjectFolder));
     window.exec();
     if (!project_.ProjectOpen) {
         closeShellHalf();
@@ -268,8 +268,8 @@ void Shell::afterLoad() {
 }
 
 void Shell::rememberOpenProject() {
-    settings_.rememberProject(QString::fromStdString(project_.ProjectFolder) +
-                              QString::fromStdString(project_.ProjectFileName));
+    settings_.rememberProject(
+        resources::bytesText(project_.ProjectFolder + project_.ProjectFileName));
     settings_.SaveEditorSettings();
     main_->showRecentProjects(settings_);
     refreshCommands();

@@ -8,6 +8,7 @@
 #include "forms/look.h"
 #include "forms/movie_player.h"
 #include "forms/project_preview.h"
+#include "resources/path_text.h"
 #include "shell/termination_signals.h"
 
 namespace quorvel::shell {
@@ -64,7 +65,7 @@ int runEditor(int argc, char** argv) {
                  .machineValue = readMachineValue,
                  .programFolder = QCoreApplication::applicationDirPath(),
                  .userFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
-                 .arguments = QCoreApplication::arguments().mid(1)});
+                 .arguments = resources::argumentTexts(argc, argv)});
     SingleInstance instance(SingleInstance::nameForUser());
     StartForm start(shell, instance);
     if (!start.begin()) {

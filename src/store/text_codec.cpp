@@ -4,10 +4,10 @@
 #include <array>
 #include <cstdint>
 
+#include "store/utf8.h"
+
 namespace quorvel::store {
 namespace {
-
-constexpr char32_t kInvalid = 0xFFFFFFFF;
 
 /// Code points of the bytes 0x80 to 0x9F; all other bytes are their own code point.
 constexpr std::array<char32_t, 32> kHighControls = {
@@ -40,29 +40,6 @@ void appendUtf8(std::string& out, char32_t point) {
         out += static_cast<char>(0x80 | ((point >> 6U) & 0x3FU));
         out += static_cast<char>(0x80 | (point & 0x3FU));
     }
-}
-
-/// Takes one character off the front of `rest`; a malformed byte is taken alone as `kInvalid`.
-char32_t takeCodePoint(std::string_view& rest) {
-    const auto lead = static_cast<unsigned char>(rest.front());
-    const std::size_t length = lead < 0x80   ? 1
-                               : lead < 0xC2 ? 0
-                               : lead < 0xE0 ? 2
-                               : lead < 0xF0 ? 3
-                               : lead < 0xF5 ? 4
-                                             : 0;
-    char32_t point = length < 2 ? lead : lead & (0x7FU >> length);
-    bool valid = length > 0 && rest.size() >= length;
-    for (std::size_t i = 1; valid && i < length; ++i) {
-        const auto next = static_cast<unsigned char>(rest[i]);
-        valid = (next & 0xC0U) == 0x80U;
-        point = (point << 6U) | (next & 0x3FU);
-    }
-    constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
-    valid = valid && point >= kSmallest[length] && point <= 0x10FFFF &&
-            (point < 0xD800 || point > 0xDFFF);
-    rest.remove_prefix(valid ? length : 1);
-    return valid ? point : kInvalid;
 }
 
 bool isAscii(std::string_view text) {

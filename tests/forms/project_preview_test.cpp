@@ -53,6 +53,24 @@ TEST_F(Preview, ASoundIsFoundInAnyLetterCase) {
         << "it was not played";
 }
 
+#ifndef _WIN32
+TEST_F(Preview, FilesAreFoundInAFolderWhoseNameIsNoText) {
+    file("Door.wav", wavBytes(44100, tone(441)));
+    file("a.avi", aviBytes({.width = 32, .height = 24, .frames = 12}));
+    std::filesystem::create_directory(folder / "caf\xE9");
+    std::filesystem::rename(folder / "Resource", folder / "caf\xE9/Resource");
+    project.ProjectFolder += "caf\xE9/";
+    const auto begun = std::chrono::steady_clock::now();
+    preview.PlayWav(QStringLiteral("Door.wav"), 0, 0, 3);
+    ASSERT_TRUE(waitUntil([this] { return !wavs.empty(); }));
+    EXPECT_GE(std::chrono::steady_clock::now() - begun, std::chrono::milliseconds(900))
+        << "it was not played";
+    preview.PlayMovie(QStringLiteral("a.avi"), QStringLiteral("Scene"), 100);
+    EXPECT_TRUE(waitUntil([this] { return player->isVisible(); }));
+    ASSERT_TRUE(waitUntil([this] { return !owners.isEmpty(); }));
+}
+#endif
+
 TEST_F(Preview, AMissingFileAndAPathAreSilentAndEnd) {
     file("Door.wav", wavBytes(441000, tone(441)));
     for (const char* name : {"Gong.wav", "", "../MMedia/Door.wav", "a/b.wav"}) {

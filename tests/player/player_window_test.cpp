@@ -51,6 +51,17 @@ TEST_F(PlayerWindow, ShowsTheFirstSceneAtItsPlace) {
     EXPECT_EQ(message(), QString());
 }
 
+TEST_F(PlayerWindow, PlaysInAFolderWhoseNameIsNoText) {
+    const auto strange = folder.makeFolder("caf\xE9");
+    builder.build(strange);
+    window = std::make_unique<player::PlayerWindow>(strange);
+    window->show();
+    window->begin();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    EXPECT_EQ(message(), QString());
+    EXPECT_EQ(colourAt({0, 0}), QColor(kRed));
+}
+
 TEST_F(PlayerWindow, TheSceneWindowLiesWhereTheLayoutSays) {
     builder.editSettings([](store::GameSettingsRecord& record) { record.LayoutPos5 = "48/10"; });
     buildAndPlay();

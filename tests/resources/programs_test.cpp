@@ -74,6 +74,17 @@ TEST_F(Programs, AProgramIsRunWithItsArgumentsInItsFolder) {
     EXPECT_FALSE(programs.run(resources::pathText(plain), {}, here));
 }
 
+TEST_F(Programs, AProgramIsRunInAFolderWhoseNameIsNoText) {
+    const fs::path before = fs::current_path();
+    const QString path = script("caf\xE9/tool");
+    const QString here = resources::pathText(out.parent_path()) + QLatin1Char('/');
+    const QString other = here + QStringLiteral("other.exe");
+    EXPECT_TRUE(programs.run(path, {QStringLiteral("a b"), other}, here));
+    EXPECT_EQ(written(), "2\na b\n./other.exe\n");
+    EXPECT_FALSE(programs.run(other, {}, here));
+    EXPECT_EQ(fs::current_path(), before);
+}
+
 TEST_F(Programs, AProgramIsFoundByItsName) {
     EXPECT_TRUE(programs.find(QStringLiteral("sh")).endsWith(QStringLiteral("/sh")));
     EXPECT_EQ(programs.find(QStringLiteral("no-such-program-anywhere")), QString());
