@@ -16,6 +16,14 @@ QString numberAndDescription(const store::RuntimeError& error) {
                                          QString::fromStdString(error.description()));
 }
 
+Box readFailure(store::ErrorNumber number, const QString& description, const QString& procedure,
+                const QString& reason = {}) {
+    const QString text =
+        QStringLiteral("Error %1 (%2) in procedure %3 of Module SceneData")
+            .arg(QString::number(static_cast<int>(number)), description, procedure);
+    return {.text = text + reason, .icon = Box::Icon::information};
+}
+
 }  // namespace
 
 QString lossText(const store::LostFileError& error) {
@@ -46,10 +54,14 @@ QString writeFailureText(const store::RuntimeError& error) {
 }
 
 void Traps::tellReadFailure(const QString& procedure, const store::RuntimeError& error) {
-    const QString text = QStringLiteral("Error %1 (%2) in procedure %3 of Module SceneData")
-                             .arg(QString::number(error.number()),
-                                  QString::fromStdString(error.description()), procedure);
-    boxes_.show({.text = text + reasonOf(error), .icon = Box::Icon::information});
+    boxes_.show(readFailure(error.code(), QString::fromStdString(error.description()), procedure,
+                            reasonOf(error)));
+}
+
+void Traps::tellReadFailure(const QString& procedure, store::ErrorNumber number,
+                            const QString& file) {
+    const std::string description(store::describe(number));
+    boxes_.show(readFailure(number, QString::fromStdString(description + ": ") + file, procedure));
 }
 
 void Traps::tellWriteFailure(const store::RuntimeError& error) {

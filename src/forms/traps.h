@@ -48,6 +48,8 @@ class Traps {
     }
 
     void tellReadFailure(const QString& procedure, const store::RuntimeError& error);
+    /// The same with the file in the description, where that says more than its kind.
+    void tellReadFailure(const QString& procedure, store::ErrorNumber number, const QString& file);
     void tellWriteFailure(const store::RuntimeError& error);
 
   private:

@@ -53,4 +53,24 @@ SplitPath splitPath(const QString& path) {
     return {spelt.left(last + 1), spelt.mid(last + 1)};
 }
 
+SplitPath fullPath(const QString& path) {
+    SplitPath split = splitPath(path);
+    const QString folder = split.folder.isEmpty() ? QStringLiteral("./") : split.folder;
+    split.folder = GetLongFileName(folder);
+    if (split.folder.isEmpty()) {
+        std::error_code error;
+        const fs::path absolute = fs::absolute(resources::pathOf(folder), error);
+        split.folder = error ? folder : asText(absolute.lexically_normal());
+    }
+    if (!split.folder.endsWith(QLatin1Char('/'))) {
+        split.folder += QLatin1Char('/');
+    }
+    return split;
+}
+
+bool isMissing(const QString& path) {
+    std::error_code error;
+    return fs::symlink_status(resources::pathOf(path), error).type() == fs::file_type::not_found;
+}
+
 }  // namespace quorvel::shell

@@ -22,4 +22,10 @@ struct SplitPath {
 /// in any letter case and come out as they are spelt on disk. What does not exist is kept as given.
 SplitPath splitPath(const QString& path);
 
+/// The same with the full form of the folder, where that exists; otherwise with its absolute form.
+SplitPath fullPath(const QString& path);
+
+/// True when nothing stands at `path`, not even something that cannot be asked for.
+bool isMissing(const QString& path);
+
 }  // namespace quorvel::shell

@@ -221,16 +221,14 @@ void Shell::openRecent(int number) {
 }
 
 bool Shell::openProject(const QString& path) {
-    if (project_.ProjectOpen && !CloseProject()) {
+    const SplitPath split = fullPath(path);
+    if (isMissing(split.folder + split.name)) {
+        traps_.tellReadFailure(QStringLiteral("GetProjData"), store::ErrorNumber::fileNotFound,
+                               split.folder + split.name);
         return false;
     }
-    SplitPath split = splitPath(path);
-    if (split.folder.isEmpty()) {
-        split.folder = QStringLiteral("./");
-    }
-    const QString full = GetLongFileName(split.folder);
-    if (!full.isEmpty()) {
-        split.folder = full.endsWith(QLatin1Char('/')) ? full : full + QLatin1Char('/');
+    if (project_.ProjectOpen && !CloseProject()) {
+        return false;
     }
     project_.ProjectFolder = resources::pathBytes(split.folder);
     project_.ProjectFileName = resources::pathBytes(split.name);

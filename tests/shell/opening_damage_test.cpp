@@ -49,6 +49,12 @@ class Damage : public ShellFixture {
         return QStringLiteral("Error %1 in procedure GetProjData of Module SceneData")
             .arg(QString::fromLatin1(error));
     }
+    static QString missing(const fs::path& path) {
+        return QStringLiteral(
+                   "Error 53 (File not found: %1) in procedure GetProjData of Module "
+                   "SceneData")
+            .arg(text(path));
+    }
     QString sceneNumber() {
         return control<QWidget>(main(), QStringLiteral("CurScene")).property("text").toString();
     }
@@ -94,11 +100,37 @@ TEST_F(Damage, AMissingResourceFolderEndsTheOpen) {
 
 TEST_F(Damage, AMissingProjectFileIsTold) {
     start({text(projects / "none.qvl")});
-    EXPECT_EQ(boxes.texts(),
-              (QStringList{QStringLiteral("Error 53 :File not found / Line = Project File"),
-                           trapText("53 (File not found)")}));
+    EXPECT_EQ(boxes.texts(), QStringList{missing(projects / "none.qvl")});
+    EXPECT_EQ(boxes.shown()[0].icon, Box::Icon::information);
     expectNoProject();
+    EXPECT_TRUE(main().isVisible());
+    EXPECT_EQ(quits, 0);
     EXPECT_TRUE(fs::is_empty(projects.path()));
+}
+
+TEST_F(Damage, AMissingProjectFolderIsToldInFull) {
+    const fs::path here = fs::current_path();
+    fs::current_path(projects.path());
+    start({QStringLiteral("no folder/../gone/none.qvl"), QStringLiteral("none.qvl")});
+    fs::current_path(here);
+    EXPECT_EQ(boxes.texts(),
+              (QStringList{missing(projects / "gone/none.qvl"), missing(projects / "none.qvl")}));
+    expectNoProject();
+}
+
+TEST_F(Damage, AMissingProjectLeavesTheOpenOneOpen) {
+    open(full().build(projects.path()));
+    EXPECT_FALSE(shell->openProject(text(projects / "none.qvl")));
+    EXPECT_EQ(boxes.texts(), QStringList{missing(projects / "none.qvl")});
+    EXPECT_TRUE(shell->project().ProjectOpen);
+}
+
+TEST_F(Damage, ALinkToNothingIsNoProject) {
+    fs::create_symlink(projects / "none.qvl", projects / "link.qvl");
+    start({text(projects / "link.qvl")});
+    EXPECT_EQ(boxes.shown().size(), 2U) << "the attributes and the file itself";
+    expectNoProject();
+    EXPECT_FALSE(fs::exists(projects / "none.qvl"));
 }
 
 TEST_F(Damage, AMissingGraphicsFolderIsToldAndTheProjectOpens) {
