@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "forms/long_words.h"
+
 namespace quorvel::forms {
 namespace {
 
@@ -34,32 +36,15 @@ QMessageBox::StandardButtons buttonsOf(Box::Buttons buttons) {
     return QMessageBox::Ok;
 }
 
-/// The text with places to break inside words that are too long for a line, as paths are. The
-/// places show nothing.
-QString breakable(const QString& text) {
-    constexpr int kLongestWord = 50;
-    constexpr QChar kBreak(0x200B);
-    QString result;
-    int letters = 0;
-    for (const QChar letter : text) {
-        letters = letter.isSpace() ? 0 : letters + 1;
-        if (letters > kLongestWord && !letter.isLowSurrogate()) {
-            result += kBreak;
-            letters = 1;
-        }
-        result += letter;
-    }
-    return result;
-}
-
 }  // namespace
 
 Answer MessageBoxes::show(const Box& box) {
-    QMessageBox window(iconOf(box.icon), box.title, breakable(box.text), buttonsOf(box.buttons),
+    QMessageBox window(iconOf(box.icon), box.title, box.text, buttonsOf(box.buttons),
                        QApplication::activeWindow());
     window.setObjectName(QStringLiteral("Box"));
     // Names out of a project may look like markup.
     window.setTextFormat(Qt::PlainText);
+    breakLongWords(window);
     if (box.buttons == Box::Buttons::yesNo) {
         window.setEscapeButton(QMessageBox::No);
     }

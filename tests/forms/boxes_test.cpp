@@ -72,16 +72,44 @@ TEST(Boxes, TextIsShownAsItIs) {
     });
 }
 
-TEST(Boxes, AWordTooLongForALineIsBroken) {
-    const QString fifty(50, QLatin1Char('x'));
-    const QChar place(0x200B);
-    answerOf({.text = QStringLiteral("a ") + fifty + QLatin1Char(' ') + fifty + fifty},
-             [&](QMessageBox& box) {
-                 EXPECT_EQ(box.text(),
-                           QStringLiteral("a ") + fifty + QLatin1Char(' ') + fifty + place + fifty);
-                 EXPECT_LT(box.width(), 800);
-                 escape(box);
-             });
+/// Where something is painted in the label of a box, in its coordinates.
+QRect inkOf(QLabel& label) {
+    const QImage image = label.grab().toImage();
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != image.pixel(0, image.height() - 1)) {
+                ink |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return ink;
+}
+
+TEST(Boxes, AWordTooLongForALineIsBrokenAndTheTextStaysAsItIs) {
+    const QString text = QStringLiteral("Could not locate:\n\n/") + QString(200, QLatin1Char('x')) +
+                         QStringLiteral("/end.qvl\n\nPlease look.");
+    answerOf({.text = text}, [&](QMessageBox& box) {
+        auto& label = control<QLabel>(box, QStringLiteral("qt_msgbox_label"));
+        EXPECT_EQ(box.text(), text);
+        EXPECT_EQ(label.text(), text);
+        EXPECT_LT(box.width(), 800);
+        const int line = label.fontMetrics().lineSpacing();
+        const QRect ink = inkOf(label);
+        EXPECT_GT(ink.height(), 6 * line) << "the name takes several lines";
+        EXPECT_GT(ink.width(), 300);
+        EXPECT_TRUE(label.rect().contains(ink));
+        EXPECT_TRUE(box.rect().contains(label.geometry()));
+        escape(box);
+    });
+}
+
+TEST(Boxes, AWordThatFitsIsLeftToTheToolkit) {
+    answerOf({.text = QStringLiteral("Saved folder exists")}, [&](QMessageBox& box) {
+        auto& label = control<QLabel>(box, QStringLiteral("qt_msgbox_label"));
+        EXPECT_GT(label.maximumWidth(), 10000);
+        escape(box);
+    });
 }
 
 TEST(Boxes, ABoxWithoutATitleBearsTheProgramsName) {
