@@ -85,6 +85,10 @@ Box boxOf(const IntakeNotice& notice) {
             return warning(QStringLiteral("The file \"%1\" could not be brought into the project.  "
                                           "There is a folder of that name:\n\n%2")
                                .arg(notice.name, resources::pathText(notice.file)));
+        case What::onlyLooking:
+            return warning(QStringLiteral("The file \"%1\" was not brought into the project, which "
+                                          "you only look at: it is open in another Quorvel.")
+                               .arg(notice.name));
         case What::notCopied:
             return warning(QStringLiteral("The file \"%1\" could not be brought into the "
                                           "project.  Nothing was changed.\n\n%2")

@@ -123,7 +123,11 @@ bool Intake::CheckFileLoc(const QString& fullPath, ResourceFolder kind) {
         }
         return true;
     }
-    const Way way{source, store::resolvePath(to, name.toStdString()), name};
+    if (project_.LookingOn) {
+        questions_.tell({.what = What::onlyLooking, .name = name});
+        return false;
+    }
+    const Way way{source, store::resolvePath(to, pathBytes(name)), name};
     std::error_code error;
     if (fs::is_directory(fs::symlink_status(way.target, error))) {
         questions_.tell({.what = What::targetIsFolder, .name = name, .file = way.target});

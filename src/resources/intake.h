@@ -46,6 +46,7 @@ struct IntakeNotice {
         sourceIsFolder,      ///< `file`
         sourceIsDevice,      ///< `file`, a pipe or a device
         targetIsFolder,      ///< `file` stands where a file shall go
+        onlyLooking,         ///< `name` cannot be taken in: the author only looks on
         notCopied,           ///< `name`; `file` refused with `error`
         sourceNotDeleted,    ///< `name` was copied, `file` could not be deleted, `error`
         wrongFolderUnknown,  ///< no such choice in the editor options

@@ -40,7 +40,7 @@ void letItRun(const fs::path& player) {
 PlayerKeeper::PlayerKeeper(House house) : house_(std::move(house)) {}
 
 void PlayerKeeper::VerifyPlayer() {
-    if (!resources::hasPlayerName(house_.project)) {
+    if (!resources::hasPlayerName(house_.project) || house_.project.LookingOn) {
         return;
     }
     const fs::path master = resources::defaultPlayerPath(house_.installPath());
@@ -163,7 +163,9 @@ bool PlayerKeeper::startPlayer() {
             return !wine.isEmpty() && house_.programs.run(wine, {path}, folder);
         }
 #endif
-        letItRun(player);
+        if (!house_.project.LookingOn) {
+            letItRun(player);
+        }
         return house_.programs.run(path, {}, folder);
     } catch (const store::RuntimeError&) {
         return false;

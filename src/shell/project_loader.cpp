@@ -38,7 +38,10 @@ bool ProjectLoader::GetProjData(LoadProgress& progress) {
         project.takeProjectRecord(record);
         sceneToShow_ = std::max<int>(record.CurrentScene, 1);
         progress.showStatus(QStringLiteral("Verifying Project Files"));
-        loaded = passSecurity(progress) && load(progress);
+        if (passSecurity(progress)) {
+            askAboutOtherEditor();
+            loaded = load(progress);
+        }
     });
     if (!loaded || !untrapped) {
         giveUp();
@@ -102,16 +105,34 @@ bool ProjectLoader::passSecurity(LoadProgress& progress) {
     return false;
 }
 
+void ProjectLoader::askAboutOtherEditor() {
+    store::Project& project = house_.project;
+    if (project.InUseElsewhere &&
+        house_.boxes.show(
+            {.text = QStringLiteral("This project is open in another Quorvel already, perhaps of "
+                                    "another user or on another computer:\n\n%1\n\nIf both of "
+                                    "you change it, each writes over what the other has changed."
+                                    "\n\nDo you want to edit it all the same?  Click 'No' to "
+                                    "look at it only; nothing is saved then.")
+                         .arg(resources::pathText(project.projectPath())),
+             .title = QStringLiteral("Project in use"),
+             .icon = Box::Icon::exclamation,
+             .buttons = Box::Buttons::yesNo}) != Answer::yes) {
+        project.lookOn();
+    }
+}
+
 bool ProjectLoader::load(LoadProgress& progress) {
     store::Project& project = house_.project;
     project.ProjectOpen = true;
     letEventsRun();
-    readOnlySeen_ = !ClearReadOnly({}) || readOnlySeen_;
+    // Who only looks on changes no attributes either.
+    readOnlySeen_ = (!project.LookingOn && !ClearReadOnly({})) || readOnlySeen_;
     if (!ReadProjectLists(progress)) {
         return false;
     }
-    // A medium that refuses to be written shows in no attribute of its files.
-    readOnlySeen_ = readOnlySeen_ || project.hasUnwritableFile();
+    // What the system says of a file and what it does when the file is opened may differ.
+    readOnlySeen_ = readOnlySeen_ || (!project.LookingOn && project.hasUnwritableFile());
     showFirstScene();
     applyToggles();
     if (readOnlySeen_) {

@@ -57,6 +57,8 @@ class ProjectLoader {
   private:
     bool passVersionGate(std::int16_t version, LoadProgress& progress);
     bool passSecurity(LoadProgress& progress);
+    /// Tells the author that the project is open elsewhere, who may look on or go on.
+    void askAboutOtherEditor();
     bool load(LoadProgress& progress);
     void showFirstScene();
     void applyToggles();

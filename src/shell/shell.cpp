@@ -72,6 +72,7 @@ void Shell::loadMain() {
     connect(keeper_.get(), &canvas::SceneKeeper::sceneLoading, &main_->status(),
             [this] { main_->status().setCount(QStringLiteral("Objects: ...")); });
     loadPreview();
+    connect(keeper_.get(), &canvas::SceneKeeper::sceneShown, this, [this] { showNotice(); });
     loadGuide();
     loadActions();
     navigation_ = std::make_unique<Navigation>(
@@ -267,6 +268,14 @@ void Shell::afterLoad() {
 
 void Shell::rememberOpenProject() {
     settings_.rememberProject(
+void Shell::showNotice(const QString& passing) {
+    const bool lasts = passing.isEmpty() && project_.LookingOn;
+    main_->status().showNotice(
+        lasts ? QStringLiteral("You only look at this project, which is open in another Quorvel.  "
+                               "Nothing is saved.")
+              : passing);
+}
+
         resources::bytesText(project_.ProjectFolder + project_.ProjectFileName));
     settings_.SaveEditorSettings();
     main_->showRecentProjects(settings_);
@@ -334,6 +343,7 @@ void Shell::closeShellHalf() {
     main_->lists().clear();
     main_->showProjectFolder(QString());
     main_->ToggleAnimations(false);
+    showNotice();
     main_->ToggleBorders(false);
     main_->raise();
 }

@@ -105,6 +105,8 @@ class Shell : public QObject {
     void showRequestedProject();
     void afterLoad();
     void tellOldSettings();
+    /// A line below the canvas until the next scene is shown; without one, what lasts.
+    void showNotice(const QString& passing = {});
     void ResetShell();
     void closeShellHalf();
     void RunTool(int number);

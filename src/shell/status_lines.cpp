@@ -62,11 +62,22 @@ StatusLines::StatusLines(QWidget* parent) : QWidget(parent) {
                       QStringLiteral("Objects: 20 / 20"));
     secondRow->addWidget(count_);
 
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 1, 0, 1);
+    notice_ = new QLabel(this);
+    notice_->setObjectName(QStringLiteral("Notice"));
+    notice_->setTextFormat(Qt::PlainText);
+    notice_->setWordWrap(true);
+    notice_->setContentsMargins(6, 1, 6, 1);
+    notice_->hide();
+
+    auto* row = new QHBoxLayout;
     row->setSpacing(0);
     row->addWidget(first, 1);
     row->addWidget(second);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 1, 0, 1);
+    column->setSpacing(1);
+    column->addWidget(notice_);
+    column->addLayout(row);
     show(canvas::emptyStatus());
     setCount(QStringLiteral("Objects:"));
 }
@@ -76,6 +87,11 @@ void StatusLines::show(const canvas::StatusText& text) {
     for (std::size_t i = 0; i < texts.size(); ++i) {
         panels_[i]->setText(texts[i]);
     }
+}
+
+void StatusLines::showNotice(const QString& text) {
+    notice_->setText(text);
+    notice_->setVisible(!text.isEmpty());
 }
 
 void StatusLines::setCount(const QString& text) {

@@ -1,4 +1,4 @@
-/// The two status lines below the canvas.
+/// The status lines below the canvas.
 #pragma once
 
 #include <array>
@@ -12,7 +12,8 @@ class QLabel;
 namespace quorvel::shell {
 
 /// `StatusBar1` with four panels about what is under the pointer, `StatusBar2` with the object
-/// count.
+/// count. Above them a line for what an author has to know without being asked, while there is
+/// something.
 class StatusLines : public QWidget {
     Q_OBJECT
   public:
@@ -26,9 +27,13 @@ class StatusLines : public QWidget {
     void setCount(const QString& text);
     void showCount(int objects);
 
+    /// The line above; an empty text takes it away.
+    void showNotice(const QString& text);
+
   private:
     std::array<QLabel*, kPanels> panels_{};
     QLabel* count_ = nullptr;
+    QLabel* notice_ = nullptr;
 };
 
 }  // namespace quorvel::shell

@@ -50,7 +50,7 @@ FileHandle::FileHandle(std::FILE* file, fs::path path, bool writable)
     length_ = size();
 }
 
-FileHandle FileHandle::open(const fs::path& path) {
+FileHandle FileHandle::open(const fs::path& path, FileUse use) {
     refuseZeroBytes(path);
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
@@ -61,8 +61,10 @@ FileHandle FileHandle::open(const fs::path& path) {
     if (!fs::is_regular_file(status)) {
         throw RuntimeError(ErrorNumber::accessError, path);
     }
-    if (std::FILE* file = openFile(path, "r+b")) {
-        return {file, path, true};
+    if (use == FileUse::readAndWrite) {
+        if (std::FILE* file = openFile(path, "r+b")) {
+            return {file, path, true};
+        }
     }
     if (std::FILE* file = openFile(path, "rb")) {
         return {file, path, false};

@@ -9,8 +9,12 @@
 #include <string>
 
 #include "store/file_identity.h"
+#include "store/file_lock.h"
 
 namespace quorvel::store {
+
+/// What a file is opened for.
+enum class FileUse : std::uint8_t { readAndWrite, readAlone };
 
 /// Owns an open file; closing may also be left to the destructor, which cannot report an error.
 /// Every failure is thrown as `RuntimeError`. There is no buffer of its own: each read and each
@@ -24,8 +28,9 @@ class FileHandle {
     FileHandle() = default;
 
     /// Opens an existing regular file for reading and writing, or for reading alone where writing
-    /// is refused. Anything that is not a regular file (a folder, a pipe, a device) is refused.
-    static FileHandle open(const std::filesystem::path& path);
+    /// is refused or not wanted. Anything that is not a regular file (a folder, a pipe, a device)
+    /// is refused.
+    static FileHandle open(const std::filesystem::path& path, FileUse use = FileUse::readAndWrite);
     /// Creates the file if it is missing, then as `open`.
     static FileHandle openOrCreate(const std::filesystem::path& path);
 
@@ -48,6 +53,9 @@ class FileHandle {
     /// Makes the file anew where its path names nothing any more, with all that the open one holds,
     /// and goes on with that. What is there meanwhile is not touched; a failure leaves nothing.
     void putBack();
+
+    /// Tells other editors that the file is in use until it is closed, unless one of them does.
+    FileLock lock() { return tryLock(file_.get()); }
 
     /// Closes the file and reports an error of it. Closing a closed handle does nothing.
     void close();

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <system_error>
 
 #include "store/paths.h"
 #include "store/runtime_error.h"
@@ -39,7 +40,19 @@ fs::path Project::projectPath() const {
 
 ProjectRecord Project::openProjectFile() {
     projectFile.open(projectPath());
+    InUseElsewhere = projectFile.lock() == FileLock::heldByAnother;
     return projectFile.read(1);
+}
+
+void Project::lookOn() {
+    LookingOn = true;
+    ReadOnlyProject = true;
+    projectFile.close();
+    projectFile.open(projectPath(), FileUse::readAlone);
+}
+
+FileUse Project::fileUse() const {
+    return LookingOn ? FileUse::readAlone : FileUse::readAndWrite;
 }
 
 void Project::takeProjectRecord(const ProjectRecord& record) {
@@ -57,19 +70,19 @@ void Project::takeProjectRecord(const ProjectRecord& record) {
 }
 
 void Project::ReadSceneList() {
-    sceneFile.open(storePath(1));
+    sceneFile.open(storePath(1), fileUse());
     NumberOfScenes = sceneFile.count();
     lists.scenes = readSceneNames(sceneFile);
 }
 
 void Project::ReadLocationList() {
-    locationFile.open(storePath(2));
+    locationFile.open(storePath(2), fileUse());
     LocationCount = locationFile.count();
     readLocations(locationFile, lists);
 }
 
 void Project::ReadItemList() {
-    itemFile.open(storePath(3));
+    itemFile.open(storePath(3), fileUse());
     ItemCount = itemFile.count();
     lists.items = readItemNames(itemFile);
     // The item editor shows item 1 when the project names none, and nothing without items.
@@ -77,7 +90,7 @@ void Project::ReadItemList() {
 }
 
 bool Project::ReadGameInfo() {
-    settingsFile.open(storePath(4));
+    settingsFile.open(storePath(4), fileUse());
     if (settingsFile.size() != sizeof(GameSettingsRecord)) {
         return false;
     }
@@ -87,8 +100,22 @@ bool Project::ReadGameInfo() {
     return true;
 }
 
+void Project::openCards() {
+    if (LookingOn) {
+        cardFile.open(storePath(5), FileUse::readAlone);
+    } else {
+        cardFile.openOrCreate(storePath(5));
+    }
+}
+
 void Project::ReadCueCardList() {
-    cardFile.openOrCreate(storePath(5));
+    std::error_code error;
+    if (LookingOn && !fs::exists(storePath(5), error)) {
+        CueCardCount = 0;  // it is made by those who may write
+        lists.cards.clear();
+        return;
+    }
+    openCards();
     CueCardCount = cardFile.count();
     lists.cards = readCardNames(cardFile);
     if (CueCardCount > 0) {
@@ -128,6 +155,7 @@ ProjectRecord Project::toRecord() const {
 
 void Project::WriteNewProjectFile() {
     projectFile.openOrCreate(projectPath());
+    projectFile.lock();
     projectFile.write(1, newRecord<ProjectRecord>());
 }
 

@@ -32,6 +32,8 @@ class Project {
     bool ProjectOpen = false;
     bool ProjectLoading = false;   ///< an open is under way
     bool ReadOnlyProject = false;  ///< the author is browsing; told once
+    bool InUseElsewhere = false;   ///< another editor had the project open when it was opened
+    bool LookingOn = false;        ///< the author only looks: every file refuses to be written
     bool OldSettings = false;      ///< the settings predate the custom-files scheme
     bool SecurityOn = false;
     std::int16_t SecurityCode = 0;  ///< 0 off, else 1 to 5000
@@ -72,8 +74,12 @@ class Project {
     /// Path of the project file, as spelt on disk.
     [[nodiscard]] std::filesystem::path projectPath() const;
 
-    /// Opens the project file and reads its record. The file stays open.
+    /// Opens the project file and reads its record. The file stays open, and other editors are told
+    /// so while it does; `InUseElsewhere` says whether one of them was there first.
     ProjectRecord openProjectFile();
+    /// Lets the author look on: nothing of this project is written until it is closed. To be called
+    /// before the lists are read.
+    void lookOn();
     /// Takes the texts, the version, the security code, the current item and card and the view
     /// toggles of `record`. The current scene is not taken: it is the one that gets loaded.
     void takeProjectRecord(const ProjectRecord& record);
@@ -106,6 +112,8 @@ class Project {
 
   private:
     [[nodiscard]] ProjectRecord toRecord() const;
+    [[nodiscard]] FileUse fileUse() const;
+    void openCards();
 };
 
 }  // namespace quorvel::store

@@ -33,11 +33,16 @@ class RecordFileBase {
     /// Makes the file anew where it was, with all its records, after its path came to name nothing.
     void putBack() { file_.putBack(); }
 
+    /// As `FileHandle::lock`.
+    FileLock lock() { return file_.lock(); }
+
     void close() { file_.close(); }
 
   protected:
     explicit RecordFileBase(std::size_t length) : length_(length) {}
-    void openFile(const std::filesystem::path& path) { file_ = FileHandle::open(path); }
+    void openFile(const std::filesystem::path& path, FileUse use) {
+        file_ = FileHandle::open(path, use);
+    }
     void openOrCreateFile(const std::filesystem::path& path) {
         file_ = FileHandle::openOrCreate(path);
     }
@@ -57,7 +62,9 @@ class RecordFile : public RecordFileBase {
   public:
     RecordFile() : RecordFileBase(sizeof(Record)) {}
 
-    void open(const std::filesystem::path& path) { openFile(path); }
+    void open(const std::filesystem::path& path, FileUse use = FileUse::readAndWrite) {
+        openFile(path, use);
+    }
     void openOrCreate(const std::filesystem::path& path) { openOrCreateFile(path); }
 
     /// Record `number` as it lies in the file. Beyond the end of the file it is the zeroed record;
