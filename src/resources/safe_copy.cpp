@@ -1,6 +1,8 @@
 #include "resources/safe_copy.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <cstdio>
 #include <memory>
 #include <span>
@@ -10,6 +12,7 @@
 #include <vector>
 
 #include "store/file_handle.h"
+#include "store/paths.h"
 #include "store/runtime_error.h"
 
 #ifdef _WIN32
@@ -28,6 +31,22 @@ using store::RuntimeError;
 constexpr std::size_t kCopyPiece = std::size_t{1} << 20;
 /// More files than that cannot have been left by editors that were killed in the middle of a copy.
 constexpr int kMostLeftovers = 1000;
+
+const std::string kBeside = "~quorvel";
+const std::string kBesideEnding = ".tmp";
+
+std::string nameBeside(int number) {
+    return kBeside + std::to_string(number) + kBesideEnding;
+}
+
+bool isNameBeside(const std::string& name) {
+    if (!name.starts_with(kBeside) || !name.ends_with(kBesideEnding)) {
+        return false;
+    }
+    int number = -1;
+    std::from_chars(name.data() + kBeside.size(), name.data() + name.size(), number);
+    return number >= 0 && number < kMostLeftovers && name == nameBeside(number);
+}
 
 [[noreturn]] void fail(const fs::path& path, std::error_code error) {
     throw RuntimeError(store::errorNumberOf(error), path);
@@ -62,7 +81,7 @@ class FileBeside {
   public:
     explicit FileBeside(fs::path target) : target_(std::move(target)) {
         for (int i = 0; i < kMostLeftovers && file_ == nullptr; ++i) {
-            path_ = target_.parent_path() / ("~quorvel" + std::to_string(i) + ".tmp");
+            path_ = target_.parent_path() / nameBeside(i);
             file_.reset(createNew(path_));
             if (file_ == nullptr && errno != EEXIST) {
                 refuse();
@@ -161,6 +180,25 @@ void copySafely(const fs::path& source, const fs::path& target, const CopyProgre
         copy.allowToRunAs(source);
     }
     copy.takeName();
+}
+
+std::vector<fs::path> removeLeftovers(const fs::path& folder) {
+    std::vector<fs::path> found;
+    std::error_code error;
+    fs::directory_iterator entry(folder, error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        std::error_code ignored;
+        if (isNameBeside(store::textOf(entry->path().filename())) &&
+            fs::is_regular_file(entry->symlink_status(ignored))) {
+            found.push_back(entry->path());
+        }
+    }
+    std::erase_if(found, [](const fs::path& path) {
+        std::error_code ignored;
+        return !fs::remove(path, ignored);
+    });
+    std::ranges::sort(found);
+    return found;
 }
 
 }  // namespace quorvel::resources

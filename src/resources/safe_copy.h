@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <vector>
 
 namespace quorvel::resources {
 
@@ -23,5 +24,9 @@ using CopyProgress = std::function<void(std::uintmax_t done, std::uintmax_t tota
 /// In both cases `target` is as before and nothing else is left behind.
 void copySafely(const std::filesystem::path& source, const std::filesystem::path& target,
                 const CopyProgress& progress = {}, CopyAs as = CopyAs::file);
+
+/// Removes what a program that was ended in the middle of `copySafely` has left in `folder`, and
+/// returns the paths of what is gone. What cannot be removed stays. Nobody may be copying there.
+std::vector<std::filesystem::path> removeLeftovers(const std::filesystem::path& folder);
 
 }  // namespace quorvel::resources

@@ -10,6 +10,7 @@
 #include "forms/events.h"
 #include "resources/path_text.h"
 #include "shell/install_path.h"
+#include "shell/leftovers.h"
 #include "shell/open_project.h"
 #include "shell/path_text.h"
 #include "store/security.h"
@@ -71,8 +72,8 @@ void Shell::loadMain() {
             &SidePanel::showSavingPossible);
     connect(keeper_.get(), &canvas::SceneKeeper::sceneLoading, &main_->status(),
             [this] { main_->status().setCount(QStringLiteral("Objects: ...")); });
-    loadPreview();
     connect(keeper_.get(), &canvas::SceneKeeper::sceneShown, this, [this] { showNotice(); });
+    loadPreview();
     loadGuide();
     loadActions();
     navigation_ = std::make_unique<Navigation>(
@@ -256,6 +257,7 @@ void Shell::showRequestedProject() {
 void Shell::afterLoad() {
     activate();
     rememberOpenProject();
+    showNotice(removeUnfinishedCopies(project_));
     player_->VerifyPlayer();
     if (project_.OldSettings) {
         tellOldSettings();
@@ -266,8 +268,6 @@ void Shell::afterLoad() {
     }
 }
 
-void Shell::rememberOpenProject() {
-    settings_.rememberProject(
 void Shell::showNotice(const QString& passing) {
     const bool lasts = passing.isEmpty() && project_.LookingOn;
     main_->status().showNotice(
@@ -276,6 +276,8 @@ void Shell::showNotice(const QString& passing) {
               : passing);
 }
 
+void Shell::rememberOpenProject() {
+    settings_.rememberProject(
         resources::bytesText(project_.ProjectFolder + project_.ProjectFileName));
     settings_.SaveEditorSettings();
     main_->showRecentProjects(settings_);
@@ -341,9 +343,9 @@ void Shell::closeShellHalf() {
     scene_ = store::Scene{};
     models_.refresh();
     main_->lists().clear();
+    showNotice();
     main_->showProjectFolder(QString());
     main_->ToggleAnimations(false);
-    showNotice();
     main_->ToggleBorders(false);
     main_->raise();
 }

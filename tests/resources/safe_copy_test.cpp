@@ -1,5 +1,6 @@
 #include "resources/safe_copy.h"
 
+#include <csignal>
 #include <gtest/gtest.h>
 #include <optional>
 #include <stdexcept>
@@ -181,6 +182,42 @@ TEST_F(SafeCopy, ASourceThatShrinksMeanwhileIsNotTakenForWhole) {
     EXPECT_EQ(errorOf(source, target, [&](auto, auto) { test::truncateFile(source, 1U << 20U); }),
               ErrorNumber::deviceError);
     EXPECT_EQ(snapshotOf(target.parent_path()), (FolderSnapshot{{"to.gif", "old"}}));
+}
+
+// A kill in the middle
+
+TEST_F(SafeCopy, WhatAKilledProgramLeftIsRemovedLater) {
+    writeBytes(source, test::randomBytes(3U << 20U, 5));
+    writeBytes(target, "old");
+#ifndef _WIN32
+    EXPECT_EXIT(copySafely(source, target, [](std::uintmax_t, std::uintmax_t) { raise(SIGKILL); }),
+                testing::KilledBySignal(SIGKILL), "");
+#else
+    writeBytes(target.parent_path() / "~quorvel0.tmp", "x");
+#endif
+    const fs::path left = target.parent_path() / "~quorvel0.tmp";
+    ASSERT_TRUE(fs::exists(left));
+    EXPECT_EQ(removeLeftovers(target.parent_path()), std::vector<fs::path>{left});
+    EXPECT_EQ(snapshotOf(target.parent_path()), (FolderSnapshot{{"to.gif", "old"}}));
+    EXPECT_TRUE(removeLeftovers(target.parent_path()).empty());
+    EXPECT_TRUE(removeLeftovers(folder / "missing").empty());
+}
+
+TEST_F(SafeCopy, WhatAnAuthorNamedAlikeStays) {
+    const fs::path here = target.parent_path();
+    for (const char* name :
+         {"~quorvel.tmp", "~quorvel01.tmp", "~quorvel1000.tmp", "~quorvel-1.tmp",
+          "~quorvel1.tmp.gif", "~quorvel1x.tmp", "a~quorvel1.tmp", "~Quorvel1.tmp"}) {
+        writeBytes(here / name, "x");
+    }
+    fs::create_directory(here / "~quorvel2.tmp");
+    fs::create_symlink(source, here / "~quorvel3.tmp");
+    const FolderSnapshot before = snapshotOf(here);
+    EXPECT_TRUE(removeLeftovers(here).empty());
+    EXPECT_EQ(test::differences(before, snapshotOf(here)), "");
+    EXPECT_TRUE(fs::is_symlink(here / "~quorvel3.tmp"));
+    writeBytes(here / "~quorvel999.tmp", "x");
+    EXPECT_EQ(removeLeftovers(here), std::vector<fs::path>{here / "~quorvel999.tmp"});
 }
 
 }  // namespace
