@@ -1,5 +1,6 @@
 #include "shell/status_lines.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -65,19 +66,18 @@ StatusLines::StatusLines(QWidget* parent) : QWidget(parent) {
     notice_ = new QLabel(this);
     notice_->setObjectName(QStringLiteral("Notice"));
     notice_->setTextFormat(Qt::PlainText);
-    notice_->setWordWrap(true);
     notice_->setContentsMargins(6, 1, 6, 1);
+    notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    notice_->setAutoFillBackground(true);
     notice_->hide();
 
-    auto* row = new QHBoxLayout;
+    auto* row = new QGridLayout(this);
+    row->setContentsMargins(0, 1, 0, 1);
     row->setSpacing(0);
-    row->addWidget(first, 1);
-    row->addWidget(second);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 1, 0, 1);
-    column->setSpacing(1);
-    column->addWidget(notice_);
-    column->addLayout(row);
+    row->setColumnStretch(0, 1);
+    row->addWidget(first, 0, 0);
+    row->addWidget(notice_, 0, 0);
+    row->addWidget(second, 0, 1);
     show(canvas::emptyStatus());
     setCount(QStringLiteral("Objects:"));
 }
@@ -87,11 +87,14 @@ void StatusLines::show(const canvas::StatusText& text) {
     for (std::size_t i = 0; i < texts.size(); ++i) {
         panels_[i]->setText(texts[i]);
     }
+    showNotice(notice_->text());
 }
 
 void StatusLines::showNotice(const QString& text) {
     notice_->setText(text);
-    notice_->setVisible(!text.isEmpty());
+    notice_->setToolTip(text);
+    const bool overObject = panels_[1]->text() != canvas::emptyStatus().index;
+    notice_->setVisible(!overObject && !text.isEmpty());
 }
 
 void StatusLines::setCount(const QString& text) {

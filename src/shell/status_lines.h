@@ -1,4 +1,4 @@
-/// The status lines below the canvas.
+/// The two status lines below the canvas.
 #pragma once
 
 #include <array>
@@ -12,8 +12,8 @@ class QLabel;
 namespace quorvel::shell {
 
 /// `StatusBar1` with four panels about what is under the pointer, `StatusBar2` with the object
-/// count. Above them a line for what an author has to know without being asked, while there is
-/// something.
+/// count. A notice, which an author has to read without having asked, stands in the place of the
+/// first while no object is under the pointer.
 class StatusLines : public QWidget {
     Q_OBJECT
   public:
@@ -27,7 +27,7 @@ class StatusLines : public QWidget {
     void setCount(const QString& text);
     void showCount(int objects);
 
-    /// The line above; an empty text takes it away.
+    /// The notice; an empty text takes it away.
     void showNotice(const QString& text);
 
   private:

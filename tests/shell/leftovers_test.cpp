@@ -37,6 +37,15 @@ TEST_F(Leftovers, AreRemovedAndNamedUntilTheNextScene) {
               QStringLiteral("Quorvel was ended while it copied a file.  What it left was removed: "
                              "~quorvel3.tmp, resource/gfx/~quorvel0.tmp, "
                              "resource/mmedia/~quorvel12.tmp"));
+    // What is under the pointer comes first; nothing else in the window moves.
+    canvas::StatusText object = canvas::emptyStatus();
+    object.index = QStringLiteral("Index: 3");
+    main().status().show(object);
+    EXPECT_FALSE(notice().isVisible());
+    main().status().show(canvas::emptyStatus());
+    EXPECT_TRUE(notice().isVisible());
+    EXPECT_EQ(notice().geometry(),
+              control<QWidget>(main(), QStringLiteral("StatusBar1")).geometry());
     control<QComboBox>(main(), QStringLiteral("Combo1")).setCurrentIndex(2);
     Q_EMIT control<QComboBox>(main(), QStringLiteral("Combo1")).activated(2);
     EXPECT_EQ(shell->project().CurrentScene, 2);
