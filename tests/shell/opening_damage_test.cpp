@@ -49,12 +49,6 @@ class Damage : public ShellFixture {
         return QStringLiteral("Error %1 in procedure GetProjData of Module SceneData")
             .arg(QString::fromLatin1(error));
     }
-    static QString missing(const fs::path& path) {
-        return QStringLiteral(
-                   "Error 53 (File not found: %1) in procedure GetProjData of Module "
-                   "SceneData")
-            .arg(text(path));
-    }
     QString sceneNumber() {
         return control<QWidget>(main(), QStringLiteral("CurScene")).property("text").toString();
     }
@@ -96,41 +90,6 @@ TEST_F(Damage, AMissingResourceFolderEndsTheOpen) {
     EXPECT_EQ(boxes.shown().size(), 1U);
     expectNoProject();
     EXPECT_FALSE(fs::exists(projects / "resource"));
-}
-
-TEST_F(Damage, AMissingProjectFileIsTold) {
-    start({text(projects / "none.qvl")});
-    EXPECT_EQ(boxes.texts(), QStringList{missing(projects / "none.qvl")});
-    EXPECT_EQ(boxes.shown()[0].icon, Box::Icon::information);
-    expectNoProject();
-    EXPECT_TRUE(main().isVisible());
-    EXPECT_EQ(quits, 0);
-    EXPECT_TRUE(fs::is_empty(projects.path()));
-}
-
-TEST_F(Damage, AMissingProjectFolderIsToldInFull) {
-    const fs::path here = fs::current_path();
-    fs::current_path(projects.path());
-    start({QStringLiteral("no folder/../gone/none.qvl"), QStringLiteral("none.qvl")});
-    fs::current_path(here);
-    EXPECT_EQ(boxes.texts(),
-              (QStringList{missing(projects / "gone/none.qvl"), missing(projects / "none.qvl")}));
-    expectNoProject();
-}
-
-TEST_F(Damage, AMissingProjectLeavesTheOpenOneOpen) {
-    open(full().build(projects.path()));
-    EXPECT_FALSE(shell->openProject(text(projects / "none.qvl")));
-    EXPECT_EQ(boxes.texts(), QStringList{missing(projects / "none.qvl")});
-    EXPECT_TRUE(shell->project().ProjectOpen);
-}
-
-TEST_F(Damage, ALinkToNothingIsNoProject) {
-    fs::create_symlink(projects / "none.qvl", projects / "link.qvl");
-    start({text(projects / "link.qvl")});
-    EXPECT_EQ(boxes.shown().size(), 2U) << "the attributes and the file itself";
-    expectNoProject();
-    EXPECT_FALSE(fs::exists(projects / "none.qvl"));
 }
 
 TEST_F(Damage, AMissingGraphicsFolderIsToldAndTheProjectOpens) {
@@ -454,16 +413,6 @@ TEST_F(Damage, ARelativeArgumentIsFoundFromTheWorkingFolder) {
               text(files.folder) + QLatin1Char('/'));
     EXPECT_TRUE(shell->project().ProjectOpen);
     fs::current_path(back);
-}
-
-TEST_F(Damage, OfSeveralArgumentsEachIsOpenedInTurn) {
-    const TestProject a = full().build(projects.makeFolder("a"));
-    const TestProject b = full().build(projects.makeFolder("b"));
-    start({text(a.projectPath()), text(projects / "none.qvl"), text(b.projectPath())});
-    EXPECT_EQ(boxes.shown().size(), 2U) << "the one that is missing";
-    EXPECT_TRUE(shell->project().ProjectOpen);
-    EXPECT_EQ(QString::fromStdString(shell->project().ProjectFolder),
-              text(b.folder) + QLatin1Char('/'));
 }
 
 }  // namespace
