@@ -42,6 +42,9 @@ SaveOutcome SceneKeeper::SaveScene() {
 }
 
 SaveOutcome SceneKeeper::write() {
+    if (project_.LookingOn) {
+        return SaveOutcome::readOnly;  // the author chose so, whatever others do to the record
+    }
     try {
         try {
             return writeOver();

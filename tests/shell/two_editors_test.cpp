@@ -70,6 +70,26 @@ TEST_F(TwoEditors, WhoLooksOnChangesNothing) {
     EXPECT_EQ(differences(before, snapshotOf(projects.path())), "");
 }
 
+TEST_F(TwoEditors, WhoLooksOnIsNotAskedAboutTheOthersScenes) {
+    store::Project other;
+    files.openIn(other);
+    openWith(Answer::no);
+    rename("Mine");
+    store::SceneRecord theirs = other.sceneFile.read(1);
+    theirs.SceneName = "Theirs";
+    other.sceneFile.write(1, theirs);
+    Q_EMIT control<QComboBox>(main(), QStringLiteral("Combo1")).activated(2);
+    Q_EMIT control<QComboBox>(main(), QStringLiteral("Combo1")).activated(1);
+    EXPECT_EQ(shell->scene().header(HeaderString::SceneName), "Theirs");
+    rename("Mine again");
+    boxes.answer(Answer::no);
+    EXPECT_FALSE(shell->CloseProject());
+    EXPECT_EQ(boxes.shown().size(), 2U) << "that the change of this scene will be lost";
+    boxes.answer(Answer::yes);
+    EXPECT_TRUE(shell->CloseProject());
+    EXPECT_EQ(readBytes(files.storePath(1), 0, 7), "Theirs ");
+}
+
 TEST_F(TwoEditors, WhoLooksOnMakesNoFileAndChangesNoRight) {
     fs::remove(files.storePath(5));
     fs::remove(projects / "Game.exe");
@@ -84,8 +104,8 @@ TEST_F(TwoEditors, WhoLooksOnMakesNoFileAndChangesNoRight) {
     const fs::path picture = home / "a.gif";
     writeBytes(picture, "x");
     dialogs.choice = text(picture);
-    EXPECT_FALSE(shell->fileChoice().choose({.filter = forms::filters::kImages,
-                                             .folder = store::ResourceFolder::gfx}));
+    EXPECT_FALSE(shell->fileChoice().choose(
+        {.filter = forms::filters::kImages, .folder = store::ResourceFolder::gfx}));
     EXPECT_EQ(boxes.shown().size(), 2U);
     EXPECT_EQ(boxes.texts().back(),
               QStringLiteral("The file \"a.gif\" was not brought into the project, which you only "
