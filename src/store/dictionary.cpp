@@ -13,7 +13,8 @@ namespace {
 
 constexpr int kNumberWidth = sizeof(IntField);
 constexpr int kSlotTextWidth = ObjectSlot::kStrWidth;
-static_assert(sizeof(ObjectSlotRecord::SlotStr) == kSlotTextWidth * ObjectSlot::kStrs);
+static_assert(static_cast<int>(sizeof(ObjectSlotRecord::SlotStr)) ==
+              kSlotTextWidth * ObjectSlot::kStrs);
 
 /// Where a number or a text of a slot lies.
 int slotOffset(NumberField field) {

@@ -56,25 +56,24 @@ Plan planOf(std::span<const FieldRef> fields) {
     return plan;
 }
 
+/// The plans of the dictionaries of the first `count` keys.
+template <class Key>
+std::vector<Plan> plansOf(int count) {
+    std::vector<Plan> plans;
+    plans.reserve(static_cast<std::size_t>(count));
+    for (int key = 0; key < count; ++key) {
+        plans.push_back(planOf(dictionary(static_cast<Key>(key))));
+    }
+    return plans;
+}
+
 const Plan& planOf(RecordKind kind) {
-    static const std::vector<Plan> all = [] {
-        std::vector<Plan> plans;
-        for (int i = 0; i < kRecordKinds; ++i) {
-            plans.push_back(planOf(dictionary(static_cast<RecordKind>(i))));
-        }
-        return plans;
-    }();
+    static const std::vector<Plan> all = plansOf<RecordKind>(kRecordKinds);
     return all[static_cast<std::size_t>(kind)];
 }
 
 const Plan& planOf(ObjectType type) {
-    static const std::vector<Plan> all = [] {
-        std::vector<Plan> plans;
-        for (int i = 0; i < kObjectTypes; ++i) {
-            plans.push_back(planOf(dictionary(static_cast<ObjectType>(i))));
-        }
-        return plans;
-    }();
+    static const std::vector<Plan> all = plansOf<ObjectType>(kObjectTypes);
     return all[static_cast<std::size_t>(type)];
 }
 

@@ -78,13 +78,15 @@ LinkOffsets linkOffsets(LinkSide side) {
     constexpr std::size_t way = offsetof(SceneRecord, LinkUpPointer);
     constexpr std::size_t area = offsetof(SceneRecord, LinkUpTop);
     constexpr std::size_t number = sizeof(IntField);
-    static_assert(way + 3 * 2 * number == offsetof(SceneRecord, LinkRightPointer));
-    static_assert(area + 3 * 4 * number == offsetof(SceneRecord, LinkRightTop));
+    constexpr std::size_t wayStride = 2 * number;
+    constexpr std::size_t areaStride = 4 * number;
+    static_assert(way + 3 * wayStride == offsetof(SceneRecord, LinkRightPointer));
+    static_assert(area + 3 * areaStride == offsetof(SceneRecord, LinkRightTop));
     constexpr std::array order = {LinkSide::up, LinkSide::down, LinkSide::left, LinkSide::right};
     const auto place =
         static_cast<std::size_t>(std::ranges::find(order, side) - order.begin()) % order.size();
-    const std::size_t wayHere = way + place * 2 * number;
-    const std::size_t areaHere = area + place * 4 * number;
+    const std::size_t wayHere = way + place * wayStride;
+    const std::size_t areaHere = area + place * areaStride;
     return {wayHere,           wayHere + number,      areaHere,
             areaHere + number, areaHere + 2 * number, areaHere + 3 * number};
 }

@@ -45,12 +45,12 @@ std::vector<std::string> namesOf(std::span<const FieldRef> fields, FieldUse use)
 // Every byte of a record belongs to one field: the dictionary forgets none.
 
 template <class Record>
-class Dictionary : public testing::Test {};
+class RecordDictionary : public testing::Test {};
 using FileRecords = testing::Types<ProjectRecord, SceneRecord, GameSettingsRecord, ItemRecord,
                                    LocationRecord, CueCardRecord, SkinRecord>;
-TYPED_TEST_SUITE(Dictionary, FileRecords);
+TYPED_TEST_SUITE(RecordDictionary, FileRecords);
 
-TYPED_TEST(Dictionary, NamesEachElementAtItsPlace) {
+TYPED_TEST(RecordDictionary, NamesEachElementAtItsPlace) {
     std::vector<std::pair<int, int>> expected;
     for (const auto& row : golden::rows<TypeParam>()) {
         for (int i = 0; i < row.count; ++i) {
@@ -65,7 +65,7 @@ TYPED_TEST(Dictionary, NamesEachElementAtItsPlace) {
     EXPECT_EQ(found, expected);
 }
 
-TYPED_TEST(Dictionary, ReadsAndWritesEachElementAlone) {
+TYPED_TEST(RecordDictionary, ReadsAndWritesEachElementAlone) {
     for (const auto& row : golden::rows<TypeParam>()) {
         for (int i = 0; i < row.count; ++i) {
             const FieldRef& field = fieldAt(dictionary(kindOf<TypeParam>()), row.at(i));
