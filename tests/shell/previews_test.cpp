@@ -38,7 +38,7 @@ TEST_F(Previews, NothingIsLoadedBeforeAWindowWithSoundOpens) {
         [](QWidget& window) { window.close(); });
     EXPECT_EQ(preview->prepared, 0);
     openSceneProperties();
-    EXPECT_EQ(preview->prepared, 1);
+    EXPECT_GE(preview->prepared, 1);
 }
 
 /// The real preview, whose library does not start: as with a scanner that sleeps.
