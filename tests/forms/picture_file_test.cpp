@@ -21,9 +21,6 @@ constexpr std::uintmax_t kFarAway = std::uintmax_t{4} << 30;
 /// As much as a file's own buffer may read ahead.
 constexpr std::int64_t kAhead = std::int64_t{64} * 1024;
 
-/// Where the first block of a GIF of ours begins: behind its header and its colours.
-constexpr std::size_t kFirstBlock = 13 + 3 * 128;
-
 std::string moving(std::optional<int> loops = std::nullopt) {
     return test::gifBytes(20, 10, {{.colour = 1}, {.colour = 2}, {.colour = 3}}, loops);
 }
@@ -91,7 +88,7 @@ TEST_F(PictureFiles, TheRoundsAreThoseThatTheReaderFinds) {
         std::string gif = moving();
         files.push_back(gif.insert(gif.size() - 1, extension));
         gif = moving();
-        files.push_back(gif.insert(kFirstBlock, extension));
+        files.push_back(gif.insert(test::kGifFirstBlock, extension));
     }
     for (const std::string& bytes : files) {
         test::writeBytes(folder_ / "b.gif", bytes);
@@ -107,7 +104,7 @@ TEST_F(PictureFiles, TheRoundsAreThoseThatTheReaderFinds) {
 TEST_F(PictureFiles, ATableOfColoursMayHoldAnyByte) {
     // A table of the frame's own, full of trailers.
     std::string gif = test::gifBytes(4, 4, {{.colour = 1}, {.colour = 2}});
-    const std::size_t flags = gif.find(',', kFirstBlock) + 9;
+    const std::size_t flags = gif.find(',', test::kGifFirstBlock) + 9;
     gif[flags] = '\x86';
     gif.insert(flags + 1, std::string(3 * 128, ';'));
     PictureFile file(withHole(gif));

@@ -22,9 +22,6 @@ using test::gifBytes;
 using test::gifColour;
 using test::writeBytes;
 
-/// Where the first block of a GIF of ours begins: behind its header and its colours.
-constexpr std::size_t kFirstBlock = 13 + 3 * 128;
-
 /// A PNG with another size in its header, which has a check sum.
 std::string pngOfSize(std::string png, const std::string& size) {
     constexpr std::size_t kHeader = 12;
@@ -204,14 +201,14 @@ TEST_F(Pictures, EveryFormatIsBoundedByItsHeader) {
 
 TEST_F(Pictures, AScreenOfNoSizeBoundsNoFrame) {
     std::string gif = gifBytes(8, 8, {{.colour = 1}});
-    gif.replace(gif.find(',', kFirstBlock) + 5, 4, "\xFF\xFF\xFF\xFF");
+    gif.replace(gif.find(',', test::kGifFirstBlock) + 5, 4, "\xFF\xFF\xFF\xFF");
     gif.replace(6, 4, std::string(4, '\0'));
     EXPECT_FALSE(store_.load(file("a.gif", gif))->ok());
 }
 
 TEST_F(Pictures, AFrameThatPromisesMoreThanItsScreen) {
     std::string gif = gifBytes(8, 8, {{.colour = 1}});
-    const auto frame = gif.find(',', kFirstBlock);
+    const auto frame = gif.find(',', test::kGifFirstBlock);
     ASSERT_NE(frame, std::string::npos);
     gif.replace(frame + 5, 4, "\x30\x75\x30\x75");
     const auto picture = store_.load(file("a.gif", gif));

@@ -1,6 +1,7 @@
 /// Small animated pictures for tests, byte for byte.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -20,6 +21,9 @@ std::uint32_t gifColour(int colour);
 /// A GIF of the given frames. With `loops` it says how often it wants to be repeated, 0 for ever.
 std::string gifBytes(int width, int height, const std::vector<GifFrame>& frames,
                      std::optional<int> loops = std::nullopt);
+
+/// Where the first block of such a GIF begins, behind its header and its colours.
+inline constexpr std::size_t kGifFirstBlock = 13 + 3 * 128;
 
 /// A GIF of one frame.
 std::string stillGif(int width, int height, int colour = 0);
