@@ -1,12 +1,15 @@
 #!/usr/bin/env bash
 # Is packages.txt complete? Every foreign header that the sources include, every shared library
 # and plug-in that the program loads and every tool that the scripts call has to belong to a
-# package of that list, to one that such a package depends on, or to one that every Debian has.
+# package of that list, to one that such a package depends on, or to one that every Debian has. What
+# the program alone needs has to belong to packages that are not marked for ./test.
 #
 # usage: check_packages.sh [--packages FILE] [--build DIR]... [--program FILE] [--tools-only]
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+# shellcheck source=scripts/lib.sh
+. "$root/scripts/lib.sh"
 packages=$root/packages.txt
 program=$root/build/release/bin/quorvel
 builds=()
@@ -18,7 +21,7 @@ while (($# > 0)); do
         --program) program=$2 && shift 2 ;;
         --tools-only) toolsOnly=yes && shift ;;
         *)
-            sed -n '2,6s/^# //p' "${BASH_SOURCE[0]}" >&2
+            sed -n '2,7s/^# //p' "${BASH_SOURCE[0]}" >&2
             exit 2
             ;;
     esac
@@ -42,10 +45,10 @@ otherTools=(c++ ccache clang-tidy ninja)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# All packages that may be counted on.
+# listPackages [kind...]: all packages that may be counted on, as packageNames tells them.
 listPackages() {
     local names
-    mapfile -t names < <(sed -e 's/[[:space:]]*#.*//' -e '/^[[:space:]]*$/d' "$packages")
+    mapfile -t names < <(packageNames "$@")
     apt-cache depends --recurse --installed --no-recommends --no-suggests --no-conflicts \
         --no-breaks --no-replaces --no-enhances "${names[@]}" | sed -n 's/^\([a-z0-9][^ :]*\).*/\1/p'
     # What is in every installation of Debian.
@@ -77,12 +80,15 @@ findPackages() {
         "$work/owners" "$work/spellings" "$work/asked"
 }
 
+# headers <needed by> <pattern>: the foreign headers of all objects but those that match.
 headers() {
     local build
     for build in "${builds[@]}"; do
         [[ -e $build/build.ninja ]] || continue
-        ninja -C "$build" -t deps 2>/dev/null | sed -n 's|^    \(/usr/.*\)|\1|p'
-    done | sort -u | xargs -r -d '\n' realpath -s | sort -u | sed 's/$/\tthe sources/'
+        ninja -C "$build" -t deps 2>/dev/null | awk -v without="$2" '
+            /^[^ ]/ { wanted = $1 !~ without }
+            wanted && /^    \/usr\// { print substr($0, 5) }'
+    done | sort -u | xargs -r -d '\n' realpath -s | sort -u | sed "s|\$|\t$1|"
 }
 
 # The libraries that a program or plug-in is linked to; a missing one is told by its bare name.
@@ -127,7 +133,8 @@ tools() {
     done
 }
 
-listPackages | sort -u >"$work/allowed"
+listPackages screen test | sort -u >"$work/allowed"
+listPackages | sort -u >"$work/allowedForProgram"
 
 tools >"$work/tools"
 if ! grep -q . "$work/tools"; then
@@ -136,31 +143,44 @@ if ! grep -q . "$work/tools"; then
 fi
 cp "$work/tools" "$work/needed"
 if [[ $toolsOnly == no ]]; then
-    headers >"$work/headers"
+    headers "the sources" '^$' >"$work/headers"
     if ! grep -q . "$work/headers"; then
         echo "    No header was found: there is no build in ${builds[*]}."
         exit 1
     fi
     cat "$work/headers" >>"$work/needed"
-    pluginFiles >>"$work/needed"
     if [[ ! -x $program ]]; then
         echo "    There is no $program."
         exit 1
     fi
-    libraries "$program" >>"$work/needed"
-    player=$(dirname "$program")/QuorvelDefaults/Game.exe
-    if [[ -e $player ]]; then
-        libraries "$player" >>"$work/needed"
-    fi
+    {
+        headers "the program" '^(bench|tests)/'
+        pluginFiles
+        libraries "$program"
+        player=$(dirname "$program")/QuorvelDefaults/Game.exe
+        if [[ -e $player ]]; then
+            libraries "$player"
+        fi
+    } >"$work/neededByProgram"
+    cat "$work/neededByProgram" >>"$work/needed"
 fi
-sort -u "$work/needed" | findPackages >"$work/found"
+touch "$work/neededByProgram"
 
-awk -F '\t' 'NR == FNR { allowed[$1]; next }
-    $1 == "-" { print "    " $2 " (" $3 ") belongs to no package"; bad = 1; next }
-    !($1 in allowed) && !(($1, $3) in told) {
-        told[$1, $3]
-        print "    " $2 " (" $3 ") belongs to " $1 ", which packages.txt does not bring"; bad = 1
-    }
-    END { exit bad }' "$work/allowed" "$work/found" || exit 1
+# compare <what is found> <packages> <the rest of the complaint>
+compare() {
+    awk -v complaint="$3" -F '\t' 'NR == FNR { allowed[$1]; next }
+        $1 == "-" { print "    " $2 " (" $3 ") belongs to no package"; bad = 1; next }
+        !($1 in allowed) && !(($1, $3) in told) {
+            told[$1, $3]
+            print "    " $2 " (" $3 ") belongs to " $1 ", which packages.txt " complaint; bad = 1
+        }
+        END { exit bad }' "$2" "$1"
+}
+
+sort -u "$work/needed" | findPackages >"$work/found"
+compare "$work/found" "$work/allowed" "does not bring" || exit 1
+awk -F '\t' 'NR == FNR { of[$0]; next } ($2 "\t" $3) in of' \
+    "$work/neededByProgram" "$work/found" >"$work/foundForProgram"
+compare "$work/foundForProgram" "$work/allowedForProgram" "marks as not needed by it" || exit 1
 echo "    $(wc -l <"$work/found") files of $(cut -f 1 "$work/found" | sort -u | wc -l) packages:" \
     "packages.txt brings them all."

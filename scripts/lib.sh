@@ -13,18 +13,28 @@ die() {
 # Seconds as "1 min 05 s".
 minutes() { printf '%d min %02d s' $(($1 / 60)) $(($1 % 60)); }
 
-# The names in packages.txt, one a line.
-packageNames() { sed -e 's/[[:space:]]*#.*//' -e '/^[[:space:]]*$/d' "$root/packages.txt"; }
+# packageNames [kind...]: the names in packages.txt, one a line: of the packages that the program
+# needs, and of those that are marked as one of the kinds. `packages` may name another list.
+packageNames() {
+    local marks="none $*"
+    awk -v marks="$marks" '
+        BEGIN { split(marks, kinds, " "); for (i in kinds) wanted["#" kinds[i] ":"] }
+        { mark = $0; sub(/^[^#]*/, "", mark); sub(/^#[ \t]*/, "#", mark)
+          sub(/[ \t].*/, "", mark); sub(/#.*/, "") }
+        mark ~ /^#(test|screen):$/ && !(mark in wanted) { next }
+        NF { print $1 }' "${packages:-$root/packages.txt}"
+}
 
 missingPackages() {
     local name
-    packageNames | while read -r name; do
+    packageNames "$@" | while read -r name; do
         if [[ $(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null) != installed ]]; then
             printf '%s\n' "$name"
         fi
     done
 }
 
+# installPackages [kind...]: what packageNames tells and the system lacks.
 installPackages() {
     if ! command -v dpkg-query >/dev/null; then
         note "This system has no dpkg, so nothing is installed; docs/dependencies.md names what"
@@ -32,9 +42,9 @@ installPackages() {
         return
     fi
     local missing
-    mapfile -t missing < <(missingPackages)
+    mapfile -t missing < <(missingPackages "$@")
     if ((${#missing[@]} == 0)); then
-        note "All packages of packages.txt are installed."
+        note "All packages that are needed are installed."
         return
     fi
     note "To be installed: ${missing[*]}"
@@ -61,8 +71,8 @@ installPackages() {
         die "apt-get could not install: ${missing[*]}"
 }
 
-# buildPreset <preset> [arguments of ninja]: configures and builds. What the configuration says is
-# only of interest when it fails.
+# buildPreset <preset> [targets or other arguments of ninja]: configures and builds. What the
+# configuration says is only of interest when it fails.
 buildPreset() {
     local preset=$1 log=$root/build/$1-configure.log
     shift
@@ -74,11 +84,6 @@ buildPreset() {
     fi
     (cd "$root" && NINJA_STATUS='[%f/%t %es] ' nice cmake --build --preset "$preset" \
         --parallel "$(nproc)" -- "$@") || return 1
-    # The sample game is not part of every build, but both scripts want it.
-    if [[ $preset == release ]] && ninja -C "$root/build/$preset" -t query sample_game \
-        >/dev/null 2>&1; then
-        (cd "$root" && nice cmake --build --preset "$preset" --target sample_game) || return 1
-    fi
 }
 
 # The project file of the sample game that a preset has built; nothing when there is none.

@@ -69,6 +69,18 @@ class MissingPackages(unittest.TestCase):
         self.assertIn("/usr/include/gif_lib.h (the sources) belongs to libgif-dev", output)
         self.assertRegex(output, r"libgif\.so\.\d \(a\.out\) belongs to libgif7")
 
+    def test_a_package_of_the_program_that_is_marked_for_the_tests(self):
+        options = self.build()
+        with open(os.path.join(ROOT, "packages.txt"), encoding="utf-8") as file:
+            packages = file.read()
+        marked, count = re.subn(r"(?m)^(libgif-dev\s+#) ", r"\1 test: ", packages)
+        self.assertEqual(count, 1)
+        code, output = self.check(*options, "--packages", self.write("marked.txt", marked))
+        self.assertEqual(code, 1)
+        self.assertIn("/usr/include/gif_lib.h (the program) belongs to libgif-dev, which packages.txt "
+                      "marks as not needed by it", output)
+        self.assertNotIn("(the sources)", output)
+
     def test_a_plug_in_that_is_not_on_the_list(self):
         options = self.build()
         with open(os.path.join(ROOT, "packages.txt"), encoding="utf-8") as file:
