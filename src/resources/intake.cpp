@@ -184,13 +184,21 @@ bool Intake::move(const Way& way) {
         return false;
     }
     questions_.working(way.name, 0, 0);
+    const auto keepSource = [&](store::ErrorNumber why) {
+        questions_.tell(
+            {.what = What::sourceNotDeleted, .name = way.name, .file = way.source, .error = why});
+    };
+    try {
+        settleNames(way.target.parent_path());
+    } catch (const store::RuntimeError& error) {
+        // The source may be all that is left of the file when the machine stops now.
+        keepSource(error.code());
+        return true;
+    }
     std::error_code error;
     fs::remove(way.source, error);
     if (error) {
-        questions_.tell({.what = What::sourceNotDeleted,
-                         .name = way.name,
-                         .file = way.source,
-                         .error = store::errorNumberOf(error)});
+        keepSource(store::errorNumberOf(error));
     }
     return true;
 }

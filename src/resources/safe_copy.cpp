@@ -18,6 +18,7 @@
 #ifdef _WIN32
 #include <io.h>
 #else
+#include <fcntl.h>
 #include <unistd.h>
 #endif
 
@@ -200,5 +201,22 @@ std::vector<fs::path> removeLeftovers(const fs::path& folder) {
     std::ranges::sort(found);
     return found;
 }
+
+#ifdef _WIN32
+void settleNames(const fs::path& /*folder*/) {}
+#else
+void settleNames(const fs::path& folder) {
+    const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) {
+        fail(folder, lastError());
+    }
+    const bool settled = ::fsync(handle) == 0 || errno == EINVAL;
+    const std::error_code error = lastError();
+    ::close(handle);
+    if (!settled) {
+        fail(folder, error);
+    }
+}
+#endif
 
 }  // namespace quorvel::resources

@@ -29,4 +29,9 @@ void copySafely(const std::filesystem::path& source, const std::filesystem::path
 /// returns the paths of what is gone. What cannot be removed stays. Nobody may be copying there.
 std::vector<std::filesystem::path> removeLeftovers(const std::filesystem::path& folder);
 
+/// Brings the names in `folder` down to the disk: a file that was renamed into it is found there
+/// even when the machine stops at once. To be called before the source of a move is deleted. Does
+/// nothing on systems that know no such thing. Throws `store::RuntimeError` with the folder.
+void settleNames(const std::filesystem::path& folder);
+
 }  // namespace quorvel::resources
