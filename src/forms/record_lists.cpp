@@ -10,18 +10,19 @@ int RecordListModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant RecordListModel::data(const QModelIndex& index, int role) const {
-    const auto row = static_cast<std::size_t>(index.row());
-    if (!index.isValid() || row >= entries_.size()) {
+    // The list may have become shorter without the model having been told yet.
+    const store::ListEntry* entry =
+        index.isValid() ? store::entryAt(entries_, index.row()) : nullptr;
+    if (entry == nullptr) {
         return {};
     }
-    const store::ListEntry& entry = entries_[row];
     switch (role) {
         case Qt::DisplayRole:
-            return QString::fromStdString(store::listText(entry.number, entry.name));
+            return QString::fromStdString(store::listText(entry->number, entry->name));
         case NumberRole:
-            return entry.number;
+            return entry->number;
         case SceneRole:
-            return int{entry.scene};
+            return int{entry->scene};
         default:
             return {};
     }
@@ -34,13 +35,18 @@ void RecordListModel::refresh() {
 }
 
 void RecordListModel::append() {
+    if (store::entryAt(entries_, rows_) == nullptr) {
+        return;
+    }
     beginInsertRows({}, rows_, rows_);
     ++rows_;
     endInsertRows();
 }
 
 void RecordListModel::renamed(int row) {
-    Q_EMIT dataChanged(index(row), index(row));
+    if (const QModelIndex changed = index(row); changed.isValid()) {
+        Q_EMIT dataChanged(changed, changed);
+    }
 }
 
 HeadedListModel::HeadedListModel(RecordListModel* source, const QString& firstEntry,
@@ -50,17 +56,25 @@ HeadedListModel::HeadedListModel(RecordListModel* source, const QString& firstEn
     connect(source, &QAbstractItemModel::modelReset, this, [this] { endResetModel(); });
     connect(source, &QAbstractItemModel::rowsAboutToBeInserted, this,
             [this](const QModelIndex&, int first, int last) {
-                beginInsertRows({}, first + 1, last + 1);
+                if (hasRows()) {
+                    beginInsertRows({}, first + 1, last + 1);
+                }
             });
-    connect(source, &QAbstractItemModel::rowsInserted, this, [this] { endInsertRows(); });
+    connect(source, &QAbstractItemModel::rowsInserted, this, [this] {
+        if (hasRows()) {
+            endInsertRows();
+        }
+    });
     connect(source, &QAbstractItemModel::dataChanged, this,
             [this](const QModelIndex& first, const QModelIndex& last) {
-                Q_EMIT dataChanged(index(first.row() + 1), index(last.row() + 1));
+                if (hasRows()) {
+                    Q_EMIT dataChanged(index(first.row() + 1), index(last.row() + 1));
+                }
             });
 }
 
 int HeadedListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() || firstEntry_.isEmpty() ? 0 : source_->rowCount() + 1;
+    return parent.isValid() || !hasRows() ? 0 : source_->rowCount() + 1;
 }
 
 QVariant HeadedListModel::data(const QModelIndex& index, int role) const {

@@ -30,9 +30,9 @@ class RecordListModel : public QAbstractListModel {
 
     /// The entries were filled anew.
     void refresh();
-    /// One entry was added at the end.
+    /// One entry was added at the end. Nothing happens where none was.
     void append();
-    /// The name of the entry in `row` was changed.
+    /// The name of the entry in `row`, from 0, was changed. Outside of the list nothing happens.
     void renamed(int row);
 
   private:
@@ -58,6 +58,8 @@ class HeadedListModel : public QAbstractListModel {
     [[nodiscard]] int rowOf(int number) const;
 
   private:
+    [[nodiscard]] bool hasRows() const { return !firstEntry_.isEmpty(); }
+
     RecordListModel* source_;
     QString firstEntry_;
     int textRole_;

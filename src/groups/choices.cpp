@@ -21,12 +21,18 @@ QStringList pointers(bool hotSpot) {
     return names;
 }
 
+forms::RecordList* makeRecordList(const char* list, const QString& spoken,
+                                  forms::RecordListModel& records, QWidget* parent) {
+    auto* made = new forms::RecordList(name(list), records, QStringLiteral("(None)"), parent);
+    made->setAccessibleName(spoken);
+    return made;
+}
+
 }  // namespace
 
 SceneChoice::SceneChoice(Sheet& sheet, const Names& names, QWidget* parent)
     : QObject(parent),
-      list(new RecordList(name(names.list), QStringLiteral("Scene"), sheet.tools().lists.scenes,
-                          parent)),
+      list(makeRecordList(names.list, QStringLiteral("Scene"), sheet.tools().lists.scenes, parent)),
       thumbnail(new PictureBox(name(names.thumbnail), QStringLiteral("Picture of the scene"),
                                kThumbnail, parent)),
       sheet_(sheet) {
@@ -71,8 +77,7 @@ void PointerChoice::refresh() {
 
 ItemChoice::ItemChoice(Sheet& sheet, const Names& names, QWidget* parent)
     : QObject(parent),
-      list(new RecordList(name(names.list), QStringLiteral("Item"), sheet.tools().lists.items,
-                          parent)),
+      list(makeRecordList(names.list, QStringLiteral("Item"), sheet.tools().lists.items, parent)),
       icon(new PictureBox(name(names.icon), QStringLiteral("Icon of the item"), kIcon, parent)),
       sheet_(sheet) {
     connect(list, &QComboBox::activated, this, [this] {
@@ -90,8 +95,8 @@ void ItemChoice::refresh() {
 MapLocation::MapLocation(Sheet& sheet, const Names& names, QWidget* parent)
     : QObject(parent),
       check(makeWrapCheck(names.check, names.caption, parent)),
-      list(new RecordList(name(names.list), QStringLiteral("Location"),
-                          sheet.tools().lists.locations, parent)),
+      list(makeRecordList(names.list, QStringLiteral("Location"), sheet.tools().lists.locations,
+                          parent)),
       label_(makeLabel("Location #", parent)) {
     label_->setBuddy(list);
     connect(check, &QCheckBox::clicked, this, [this, &sheet] {

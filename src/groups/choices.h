@@ -2,9 +2,9 @@
 /// groups.
 #pragma once
 
+#include "forms/record_list.h"
 #include "groups/controls.h"
 #include "groups/picture_box.h"
-#include "groups/record_list.h"
 #include "groups/sheet.h"
 
 namespace quorvel::groups {
@@ -22,7 +22,7 @@ class SceneChoice : public QObject {
     };
     SceneChoice(Sheet& sheet, const Names& names, QWidget* parent);
 
-    RecordList* list;
+    forms::RecordList* list;
     PictureBox* thumbnail;
 
     void refresh(bool onCanvas);
@@ -72,7 +72,7 @@ class ItemChoice : public QObject {
     };
     ItemChoice(Sheet& sheet, const Names& names, QWidget* parent);
 
-    RecordList* list;
+    forms::RecordList* list;
     PictureBox* icon;
 
   Q_SIGNALS:
@@ -96,7 +96,7 @@ class MapLocation : public QObject {
     MapLocation(Sheet& sheet, const Names& names, QWidget* parent);
 
     QCheckBox* check;
-    RecordList* list;
+    forms::RecordList* list;
 
     void addTo(QVBoxLayout* column);
 

@@ -9,14 +9,23 @@
 #include <QLineEdit>
 #include <QScopedValueRollback>
 
+#include "forms/record_list.h"
 #include "groups/controls.h"
 #include "groups/level.h"
 #include "groups/number_box.h"
-#include "groups/record_list.h"
 #include "store/numbers.h"
 
 namespace quorvel::groups {
 namespace {
+
+std::optional<int> indexOf(const QComboBox& list) {
+    return list.currentIndex() < 0 ? std::nullopt : std::optional(list.currentIndex());
+}
+
+/// Shows the entry of an index, or none where there is no such entry.
+void showIndex(QComboBox& list, int index) {
+    list.setCurrentIndex(index < list.count() ? index : -1);
+}
 
 /// How a control shows a number.
 struct NumberFace {
@@ -106,10 +115,6 @@ class DecimalBinding : public Binding {
     QComboBox* list_;
 };
 
-std::optional<int> indexOf(const QComboBox& list) {
-    return list.currentIndex() < 0 ? std::nullopt : std::optional(list.currentIndex());
-}
-
 }  // namespace
 
 void Sheet::expectSound() {
@@ -180,7 +185,7 @@ void Sheet::bindMovieVolume(const NumberRef& field, Level* level) {
                               }}));
 }
 
-void Sheet::bind(const NumberRef& field, RecordList* list) {
+void Sheet::bind(const NumberRef& field, forms::RecordList* list) {
     bind(std::make_unique<NumberBinding>(
         field, NumberFace{.control = list,
                           .show = [list](int number) { list->choose(number); },
@@ -198,10 +203,7 @@ void Sheet::bind(const NumberRef& field, ChannelList* list) {
 void Sheet::bind(const NumberRef& field, QComboBox* list) {
     bind(std::make_unique<NumberBinding>(
         field, NumberFace{.control = list,
-                          .show =
-                              [list](int index) {
-                                  list->setCurrentIndex(index < list->count() ? index : -1);
-                              },
+                          .show = [list](int index) { showIndex(*list, index); },
                           .value = [list] { return indexOf(*list); }}));
 }
 

@@ -24,13 +24,16 @@ class QComboBox;
 class QLineEdit;
 class QWidget;
 
+namespace quorvel::forms {
+class RecordList;
+}
+
 namespace quorvel::groups {
 
 class ChannelList;
 class Level;
 class NumberBox;
 class OptionGroup;
-class RecordList;
 
 /// What property windows are given from outside. Everything named here must outlive them.
 struct Tools {
@@ -87,7 +90,7 @@ class Sheet : public QObject {
     void bindSlider(const NumberRef& field, Level* level);
     /// A stored volume above 100 counts as 100, and is put to that at once.
     void bindMovieVolume(const NumberRef& field, Level* level);
-    void bind(const NumberRef& field, RecordList* list);
+    void bind(const NumberRef& field, forms::RecordList* list);
     void bind(const NumberRef& field, ChannelList* list);
     /// The index of the entry.
     void bind(const NumberRef& field, QComboBox* list);

@@ -6,9 +6,7 @@
 #include <QObject>
 #include <QString>
 
-#include "forms/record_lists.h"
-
-class QComboBox;
+#include "forms/record_list.h"
 
 namespace quorvel::shell {
 
@@ -33,8 +31,7 @@ class MainLists : public QObject {
 
   private:
     struct Head {
-        QComboBox* combo;
-        forms::HeadedListModel* model;
+        forms::RecordList* combo;
         QString firstEntry;
     };
     QComboBox* add(const char* name, forms::RecordListModel& source, const char* firstEntry,

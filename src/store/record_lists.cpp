@@ -32,6 +32,12 @@ bool ProjectLists::renameScene(int number, const std::string& name) {
     return true;
 }
 
+const ListEntry* entryAt(const std::vector<ListEntry>& entries, int row) {
+    return row >= 0 && static_cast<std::size_t>(row) < entries.size()
+               ? &entries[static_cast<std::size_t>(row)]
+               : nullptr;
+}
+
 std::string listText(int number, const std::string& name) {
     return std::to_string(number) + " (" + name + ")";
 }

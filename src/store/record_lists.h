@@ -21,6 +21,9 @@ struct ListEntry {
 /// The text of a list line: number, a blank, the name in parentheses.
 std::string listText(int number, const std::string& name);
 
+/// The entry in `row`, counted from 0, or null where the list has none.
+const ListEntry* entryAt(const std::vector<ListEntry>& entries, int row);
+
 /// An icon on the map. Coordinates are pixels of the map picture.
 struct MapIcon {
     int number = 0;

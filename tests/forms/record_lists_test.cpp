@@ -2,12 +2,15 @@
 #include "forms/record_lists.h"
 
 #include <gtest/gtest.h>
+#include <limits>
+#include <memory>
 
 #include <QAbstractItemModelTester>
+#include <QAbstractItemView>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QSignalSpy>
 
+#include "forms/record_list.h"
 #include "support/windows/played_author.h"
 
 namespace quorvel::test {
@@ -15,6 +18,7 @@ namespace {
 
 using forms::HeadedListModel;
 using forms::NumberRole;
+using forms::RecordList;
 using forms::SceneRole;
 
 class RecordLists : public ::testing::Test {
@@ -100,25 +104,147 @@ TEST_F(RecordLists, ModelsKeepTheRulesOfTheToolkit) {
     EXPECT_EQ(headed.rowCount(), 2);
 }
 
-TEST_F(RecordLists, ALongListCostsNothingUntilItIsShown) {
-    constexpr int kMost = 32767;
-    lists.scenes.clear();
-    for (int n = 1; n <= kMost; ++n) {
-        lists.scenes.push_back({n, "Scene", 0});
+// What is outside of a list.
+
+TEST_F(RecordLists, RowsOutsideHoldNothing) {
+    HeadedListModel headed(&models.scenes, QStringLiteral("(None)"), nullptr);
+    for (const int row : {-1, 3, 4, 32767, std::numeric_limits<int>::max()}) {
+        for (const int role : {int{Qt::DisplayRole}, int{NumberRole}, int{SceneRole}}) {
+            EXPECT_FALSE(models.scenes.index(row).data(role).isValid()) << row;
+        }
     }
+    for (const int row : {-1, 4, 32767}) {
+        EXPECT_FALSE(headed.index(row).data(NumberRole).isValid()) << row;
+    }
+}
+
+TEST_F(RecordLists, AListThatGotShorterWithoutAWordGivesNothingForTheRowsThatAreGone) {
+    const QPersistentModelIndex last = models.scenes.index(2);
+    RecordList box(QStringLiteral("b"), models.scenes, QStringLiteral("(None)"), nullptr);
+    box.choose(3);
+    ASSERT_EQ(box.chosen(), 3);
+    lists.scenes.resize(1);
+    EXPECT_FALSE(last.data(NumberRole).isValid());
+    EXPECT_EQ(box.chosen(), std::nullopt) << "not 0, which would be stored as none";
+    lists.scenes.clear();
+    EXPECT_FALSE(models.scenes.index(0).data().isValid());
+    box.choose(1);
+    EXPECT_EQ(box.chosen(), std::nullopt);
+}
+
+TEST_F(RecordLists, NewsOfRowsOutsideAreNoNews) {
+    HeadedListModel headed(&models.scenes, QStringLiteral("(None)"), nullptr);
+    QSignalSpy source(&models.scenes, &QAbstractItemModel::dataChanged);
+    QSignalSpy front(&headed, &QAbstractItemModel::dataChanged);
+    QSignalSpy inserted(&headed, &QAbstractItemModel::rowsInserted);
+    for (const int row : {-1, 3, 32767}) {
+        models.scenes.renamed(row);
+    }
+    models.scenes.append();
+    EXPECT_EQ(source.count() + front.count() + inserted.count(), 0);
+    EXPECT_EQ(models.scenes.rowCount(), 3) << "nothing was added";
+    models.scenes.renamed(0);
+    ASSERT_EQ(front.count(), 1);
+    EXPECT_EQ(front.front().front().toModelIndex().row(), 1);
+    lists.scenes.push_back({4, "New", 0});
+    models.scenes.append();
+    EXPECT_EQ(inserted.count(), 1);
+    EXPECT_EQ(headed.rowCount(), 5);
+}
+
+TEST_F(RecordLists, AListWithoutAFirstEntryHearsNothingOfItsRows) {
+    HeadedListModel headed(&models.scenes, QString(), nullptr);
+    const QAbstractItemModelTester rules(&headed,
+                                         QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QSignalSpy changes(&headed, &QAbstractItemModel::dataChanged);
+    QSignalSpy inserted(&headed, &QAbstractItemModel::rowsInserted);
+    lists.scenes.push_back({4, "New", 0});
+    models.scenes.append();
+    models.scenes.renamed(0);
+    EXPECT_EQ(changes.count() + inserted.count(), 0) << "it has no row";
+    headed.setFirstEntry(QStringLiteral("(None)"));
+    EXPECT_EQ(headed.rowCount(), 5);
+}
+
+TEST_F(RecordLists, ABoxShowsNothingForANumberThatItDoesNotHave) {
+    RecordList box(QStringLiteral("b"), models.locations, QStringLiteral("(None)"), nullptr);
+    EXPECT_EQ(box.chosen(), 0) << "the first entry stands for none";
+    for (const int number : {-1, 1, 3, 6, 32767, -32768}) {
+        box.choose(number);
+        EXPECT_EQ(box.currentIndex(), -1) << number;
+        EXPECT_EQ(box.chosen(), std::nullopt) << number;
+    }
+    box.choose(5);
+    EXPECT_EQ(box.chosen(), 5);
+    RecordList empty(QStringLiteral("e"), models.locations, QString(), nullptr);
+    EXPECT_EQ(empty.count(), 0);
+    EXPECT_EQ(empty.chosen(), std::nullopt);
+    empty.choose(0);
+    EXPECT_EQ(empty.chosen(), std::nullopt);
+}
+
+// A list as long as a project can have it.
+
+/// Counts how often it is asked for what stands in a row.
+class CountedList : public forms::RecordListModel {
+  public:
+    explicit CountedList(const std::vector<store::ListEntry>& entries)
+        : RecordListModel(entries, nullptr) {}
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
+        ++asked;
+        return RecordListModel::data(index, role);
+    }
+    mutable int asked = 0;
+};
+
+class LongList : public ::testing::Test {
+  protected:
+    static constexpr int kMost = 32767;
+    LongList() {
+        for (int n = 1; n <= kMost; ++n) {
+            scenes.push_back({n, "Scene", 0});
+        }
+    }
+    std::vector<store::ListEntry> scenes;
+    CountedList model{scenes};
+};
+
+TEST_F(LongList, CostsNothingUntilItIsShown) {
     std::vector<std::unique_ptr<HeadedListModel>> fronts;
     for (int i = 0; i < 200; ++i) {
         fronts.push_back(
-            std::make_unique<HeadedListModel>(&models.scenes, QStringLiteral("(None)"), nullptr));
+            std::make_unique<HeadedListModel>(&model, QStringLiteral("(None)"), nullptr));
     }
-    QElapsedTimer clock;
-    clock.start();
-    models.refresh();
+    RecordList box(QStringLiteral("b"), model, QStringLiteral("(None)"), nullptr);
+    model.refresh();
+    EXPECT_EQ(model.asked, 0) << "no text is made and no row is walked";
     for (const auto& front : fronts) {
         EXPECT_EQ(front->rowOf(kMost), kMost);
     }
-    EXPECT_LT(clock.elapsed(), 200) << "no texts are made and no rows are walked";
-    EXPECT_EQ(rowText(*fronts.front(), kMost), QStringLiteral("32767 (Scene)"));
+    box.choose(kMost);
+    box.sizeHint();
+    EXPECT_LE(model.asked, 300);
+    EXPECT_EQ(fronts.front()->index(kMost).data().toString(), QStringLiteral("32767 (Scene)"));
+}
+
+TEST_F(LongList, DropsDownWithoutWalkingThroughItsRows) {
+    model.refresh();
+    QWidget window;
+    RecordList box(QStringLiteral("b"), model, QStringLiteral("(None)"), &window);
+    window.show();
+    box.choose(20000);
+    QCoreApplication::processEvents();
+    model.asked = 0;
+    box.showPopup();
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(box.view()->isVisible());
+    // What is seen of it is painted, a row asks for a dozen things.
+    EXPECT_LT(model.asked, 2000);
+    EXPECT_GT(model.asked, 0);
+    const int rows = box.view()->viewport()->height() / std::max(1, box.view()->sizeHintForRow(0));
+    EXPECT_GT(rows, 5);
+    EXPECT_LE(rows, 17) << "and it has a scroll bar";
+    box.hidePopup();
 }
 
 }  // namespace

@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/record_list.h"
 #include "groups/controls.h"
 #include "groups/level.h"
 #include "groups/number_box.h"
-#include "groups/record_list.h"
 #include "groups/tools_fixture.h"
 
 namespace quorvel::test {
@@ -63,7 +63,7 @@ TEST_F(Sheets, EachKindOfControlCarriesItsNumberBothWays) {
         NumberRule::value, [] {}, nullptr);
     OptionGroup options("Option1", 1, {"A", "B", "C"}, &window);
     Level level(QStringLiteral("s"), QStringLiteral("b"), QString(), kWavVolume, &window);
-    RecordList scenes(QStringLiteral("l"), QString(), lists.scenes, &window);
+    forms::RecordList scenes(QStringLiteral("l"), lists.scenes, QStringLiteral("(None)"), &window);
     ChannelList channel(QStringLiteral("c"), &window);
     QComboBox list;
     list.addItems(comparisons());
@@ -112,7 +112,7 @@ TEST_F(Sheets, WhatAControlCannotShowStaysUntilTheAuthorChooses) {
     lists.refresh();
     std::array<std::int16_t, 5> numbers = {500, 9, 7, 1234, 99};
     const auto before = numbers;
-    RecordList scenes(QStringLiteral("l"), QString(), lists.scenes, &window);
+    forms::RecordList scenes(QStringLiteral("l"), lists.scenes, QStringLiteral("(None)"), &window);
     OptionGroup options("Option1", 1, {"A", "B"}, &window);
     QCheckBox check;
     Level level(QStringLiteral("s"), QStringLiteral("b"), QString(), kWavVolume, &window);

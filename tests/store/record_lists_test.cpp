@@ -1,6 +1,7 @@
 #include "store/record_lists.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 #include "store/project_stage.h"
 #include "support/file_bytes.h"
@@ -15,6 +16,17 @@ using RecordLists = ProjectStage;
 TEST_F(RecordLists, ALineIsNumberBlankAndNameInParentheses) {
     EXPECT_EQ(listText(3, "Hall"), "3 (Hall)");
     EXPECT_EQ(listText(32767, ""), "32767 ()");
+}
+
+TEST_F(RecordLists, HaveBounds) {
+    const std::vector<ListEntry> entries = {{1, "Hall", 0}, {2, "Attic", 0}};
+    EXPECT_EQ(entryAt(entries, 0), &entries.front());
+    EXPECT_EQ(entryAt(entries, 1), &entries.back());
+    for (const int row :
+         {-1, 2, 3, 32767, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
+        EXPECT_EQ(entryAt(entries, row), nullptr) << row;
+    }
+    EXPECT_EQ(entryAt({}, 0), nullptr);
 }
 
 TEST_F(RecordLists, HoldEveryRecordInOrder) {
