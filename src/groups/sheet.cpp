@@ -106,13 +106,23 @@ class DecimalBinding : public Binding {
   public:
     DecimalBinding(TextRef field, QComboBox* list) : field_(std::move(field)), list_(list) {}
 
-    void load() override { list_->setCurrentIndex(store::valInt(field_.get().toStdString())); }
-    void store() override { field_.set(QString::number(std::max(list_->currentIndex(), 0))); }
+    void load() override {
+        showIndex(*list_, store::valInt(field_.get().toStdString()));
+        shown_ = list_->currentIndex();
+    }
+    void store() override {
+        const int index = list_->currentIndex();
+        // A text that the list has no entry for stays while the list shows none.
+        if (index >= 0 || index != shown_) {
+            field_.set(QString::number(std::max(index, 0)));
+        }
+    }
     [[nodiscard]] QWidget* control() const override { return list_; }
 
   private:
     TextRef field_;
     QComboBox* list_;
+    int shown_ = -1;
 };
 
 }  // namespace

@@ -96,7 +96,8 @@ class Sheet : public QObject {
     void bind(const NumberRef& field, QComboBox* list);
     /// Of a box for numbers, the number as text.
     void bind(const TextRef& field, QLineEdit* box);
-    /// The index of the entry as decimal text; what is no entry counts as 0.
+    /// The index of the entry as decimal text; an empty text counts as 0, and a list that was put
+    /// on no entry is stored as 0.
     void bindText(const TextRef& field, QComboBox* list);
     void bind(std::unique_ptr<Binding> binding) { bindings_.push_back(std::move(binding)); }
 

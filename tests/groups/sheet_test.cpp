@@ -104,7 +104,7 @@ TEST_F(Sheets, EachKindOfControlCarriesItsNumberBothWays) {
     sheet->store();
     EXPECT_EQ(numbers, (std::array<std::int16_t, 7>{0, 12, 3, -4000, 1, 7, 0}));
     EXPECT_EQ(name, "");
-    EXPECT_EQ(group, "0") << "what is no entry counts as the first";
+    EXPECT_EQ(group, "0") << "a list that was put on no entry counts as on the first";
 }
 
 TEST_F(Sheets, WhatAControlCannotShowStaysUntilTheAuthorChooses) {
@@ -133,6 +133,36 @@ TEST_F(Sheets, WhatAControlCannotShowStaysUntilTheAuthorChooses) {
     list.setCurrentIndex(2);
     sheet->store();
     EXPECT_EQ(numbers, (std::array<std::int16_t, 5>{1, 2, 0, -1, 2}));
+}
+
+TEST_F(Sheets, ATextThatTheListHasNoEntryForStaysUntilTheAuthorChooses) {
+    const QStringList entries = {QStringLiteral("Independent"), QStringLiteral("Group 1")};
+    for (const char* kept : {"99", "2", "-1", "-99", "99999999999", "7 and more"}) {
+        SCOPED_TRACE(kept);
+        std::string text = kept;
+        Sheet one(*tools);
+        QComboBox list;
+        list.addItems(entries);
+        one.bindText(text, &list);
+        one.load();
+        EXPECT_EQ(list.currentIndex(), -1);
+        one.store();
+        EXPECT_EQ(text, kept) << "stored without a change";
+        list.setCurrentIndex(1);
+        one.store();
+        EXPECT_EQ(text, "1");
+        list.setCurrentIndex(0);
+        one.store();
+        EXPECT_EQ(text, "0");
+    }
+    std::string empty;
+    QComboBox list;
+    list.addItems(entries);
+    sheet->bindText(empty, &list);
+    sheet->load();
+    EXPECT_EQ(list.currentIndex(), 0);
+    sheet->store();
+    EXPECT_EQ(empty, "0");
 }
 
 TEST_F(Sheets, AStoredZeroStandsForTheFirstOptionAndAWrongChannelForTheFirstEntry) {

@@ -354,6 +354,39 @@ TEST_F(HotSpotBehaviour, AListThatShowsNothingIsStoredAsItsFirstEntry) {
     EXPECT_EQ(word(HotSpot::Group), "0");
 }
 
+TEST_F(HotSpotBehaviour, AGroupThatTheListDoesNotHaveStaysUntilTheAuthorChoosesOne) {
+    openGame();
+    for (const char* kept : {"99", "11", "-1", "12345678901"}) {
+        SCOPED_TRACE(kept);
+        put(HotSpot::Group, kept);
+        edit([](const Hand& hand) {
+            EXPECT_EQ(hand.list("Combo3").currentIndex(), -1);
+            hand.click("Check5");
+            hand.click("Command1");
+            hand.click("Check5");
+            hand.click("Command6");
+        });
+        EXPECT_EQ(word(HotSpot::Group), kept);
+    }
+    put(HotSpot::Group, "99");
+    edit([](const Hand& hand) {
+        hand.click("Check5");
+        hand.click("Command6");
+    });
+    action(QStringLiteral("Filemen(3)")).trigger();  // closes the project
+    EXPECT_EQ(record(1).Slots[kSlot - 1].SlotStr[6].text(), "99") << "and so the file has it";
+}
+
+TEST_F(HotSpotBehaviour, AnyGroupCanFollowOneThatTheListDoesNotHave) {
+    openGame();
+    put(HotSpot::Group, "99");
+    edit([](const Hand& hand) {
+        hand.pick("Combo3", 0);
+        hand.click("Command6");
+    });
+    EXPECT_EQ(word(HotSpot::Group), "0");
+}
+
 TEST_F(HotSpotBehaviour, GroupsAreStoredAsDecimalText) {
     openGame();
     edit([](const Hand& hand) {

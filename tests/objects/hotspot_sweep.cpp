@@ -51,11 +51,13 @@ SweepTable hotSpotTable() {
     return table;
 }
 
-/// A picture gives its HotSpot its size; what is no group is none.
+/// A picture gives its HotSpot its size; an empty group is the first, what is no group stays.
 Fields settled(Fields fields) {
     fields = settledSlot(std::move(fields), kType);
     const int group = store::valInt(fields["Group"]);
-    fields["Group"] = group > 10 ? "0" : std::to_string(group);
+    if (group >= 0 && group <= 10) {
+        fields["Group"] = std::to_string(group);
+    }
     if (fields["QuickSpot"] == "0") {
         const std::string image = fields["Image"];
         fields["QuickHeight"] = image == "one.gif" ? "30" : image == "two.gif" ? "16" : "64";
