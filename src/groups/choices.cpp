@@ -40,13 +40,22 @@ SceneChoice::SceneChoice(Sheet& sheet, const Names& names, QWidget* parent)
         refresh(onCanvas);
         Q_EMIT picked(list->chosen().value_or(0));
         sheet_.touch();
+        tellMissing();
     });
     connect(&sheet, &Sheet::activated, this,
             [this, onCanvas = names.canvasOnOpening] { refresh(onCanvas); });
+    connect(&sheet, &Sheet::opened, this, &SceneChoice::tellMissing);
 }
 
 void SceneChoice::refresh(bool onCanvas) {
     thumbnail->setPicture(scenePicture(sheet_.tools(), list->chosen().value_or(0), onCanvas));
+}
+
+void SceneChoice::tellMissing() {
+    if (linkedPictureMissing(sheet_.tools(), list->chosen().value_or(0))) {
+        sheet_.tools().boxes.tell(
+            QStringLiteral("Could not show preview of linked scene.  The file is missing."));
+    }
 }
 
 PointerChoice::PointerChoice(Sheet& sheet, const Names& names, QWidget* parent)

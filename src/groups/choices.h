@@ -25,7 +25,11 @@ class SceneChoice : public QObject {
     forms::RecordList* list;
     PictureBox* thumbnail;
 
+    /// The picture follows the list.
     void refresh(bool onCanvas);
+    /// Tells the author when the scene's picture is not on the disk. To be called once when the
+    /// list was filled and once for each pick, never because the window is looked at again.
+    void tellMissing();
 
   Q_SIGNALS:
     /// The author has picked an entry; the thumbnail shows it.

@@ -3,6 +3,7 @@
 #include "forms/stock_pointers.h"
 #include "store/game_stores.h"
 #include "store/paths.h"
+#include "store/scene_store.h"
 
 namespace quorvel::groups {
 namespace {
@@ -49,6 +50,17 @@ forms::PicturePtr scenePicture(const Tools& tools, int number, bool onCanvas) {
     }
     return gfxPicture(
         tools, nameOf([&] { return tools.project.sceneFile.read(number).SceneImage.text(); }));
+}
+
+bool linkedPictureMissing(const Tools& tools, int number) {
+    if (number < 1 || number > tools.project.NumberOfScenes) {
+        return false;
+    }
+    try {
+        return store::LookupSceneImage(tools.project, tools.scene, number).fileMissing;
+    } catch (const store::RuntimeError&) {
+        return false;
+    }
 }
 
 forms::PicturePtr itemIcon(const Tools& tools, int number) {

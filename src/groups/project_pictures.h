@@ -16,6 +16,10 @@ forms::PicturePtr objectPicture(const Tools& tools, const QString& name);
 /// the canvas it is the picture that the canvas shows.
 forms::PicturePtr scenePicture(const Tools& tools, int number, bool onCanvas);
 
+/// Whether scene `number` names a picture whose file is gone. Of the scene that is in memory nobody
+/// asks: the canvas shows what there is of it.
+bool linkedPictureMissing(const Tools& tools, int number);
+
 /// The icon of item `number`, or null.
 forms::PicturePtr itemIcon(const Tools& tools, int number);
 

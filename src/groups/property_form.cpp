@@ -79,8 +79,16 @@ void PropertyForm::showEvent(QShowEvent* event) {
         if (apply_ != nullptr) {
             apply_->setEnabled(false);
         }
+        // A box that comes now has to lie over the window, which is not on the screen yet.
+        QMetaObject::invokeMethod(this, &PropertyForm::tellOpened, Qt::QueuedConnection);
     }
     Form::showEvent(event);
+}
+
+void PropertyForm::tellOpened() {
+    if (FormLoaded && isVisible()) {
+        Q_EMIT sheet_.opened();
+    }
 }
 
 bool PropertyForm::event(QEvent* event) {

@@ -67,6 +67,7 @@ class PropertyForm : public forms::Form {
     bool event(QEvent* event) override;
 
   private:
+    void tellOpened();
     void tellProblem(const Binding& binding);
     void makeRoom();
     void returnRoom();

@@ -115,6 +115,9 @@ class Sheet : public QObject {
     void touched();
     /// The window is shown, or is looked at again after another one.
     void activated();
+    /// The window has been filled and stands on the screen. Comes once for each time that it is
+    /// opened: what has to be told about its content is told now.
+    void opened();
     /// A sound has stopped all others: what else played as a WAV is silent now.
     void soundsStopped();
     /// The window is about to close: previews stop, their buttons go back.

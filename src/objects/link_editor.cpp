@@ -61,8 +61,10 @@ void directionprop::filled() {
     }
     tabs_->setCurrentIndex(CurObj_ - 1);
     ShowDirection(tabs_->tabText(CurObj_ - 1));
-    connect(tabs_, &QTabBar::currentChanged, this,
-            [this](int tab) { ShowDirection(tabs_->tabText(tab)); });
+    connect(tabs_, &QTabBar::currentChanged, this, [this](int tab) {
+        ShowDirection(tabs_->tabText(tab));
+        scene_->tellMissing();
+    });
 }
 
 void directionprop::ShowDirection(const QString& direction) {
