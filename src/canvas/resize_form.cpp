@@ -1,7 +1,5 @@
 #include "canvas/resize_form.h"
 
-#include <algorithm>
-#include <limits>
 #include <utility>
 
 #include <QGridLayout>
@@ -14,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "canvas/texts.h"
+#include "forms/number_problem.h"
 #include "store/numbers.h"
 
 namespace quorvel::canvas {
@@ -37,11 +36,6 @@ Place restoredPlace(store::LinkSide side) {
         return {.left = 442, .top = 32, .width = link.width, .height = link.height};
     }
     return {.left = link.left, .top = link.top, .width = link.width, .height = link.height};
-}
-
-std::int16_t pixels(const QString& text) {
-    constexpr int kMost = std::numeric_limits<std::int16_t>::max();
-    return static_cast<std::int16_t>(std::clamp(store::valInt(text.toStdString()), 0, kMost));
 }
 
 }  // namespace
@@ -163,18 +157,27 @@ Place ResizeD::proposed() const {
     if (option >= 0 && option < kCustom) {
         place.height = place.width = kPresets[static_cast<std::size_t>(option)];
     } else if (option == kCustom) {
-        place.height = pixels(custom_[0]->text());
-        place.width = pixels(custom_[1]->text());
+        place.height = pixel(customSide(0));
+        place.width = pixel(customSide(1));
     } else if (option == kRestore) {
         place = restoredPlace(link_.side);
     }
     return place;
 }
 
+int ResizeD::customSide(std::size_t side) const {
+    return store::valInt(custom_.at(side)->text().toStdString());
+}
+
 void ResizeD::showSizes() {
     const Place current = link_.place();
     const Place next = proposed();
-    const std::array numbers = {current.width, current.height, next.width, next.height};
+    std::array<int, 4> numbers = {current.width, current.height, next.width, next.height};
+    if (chosen() == kCustom) {
+        // As typed, also what will be refused.
+        numbers[2] = customSide(1);
+        numbers[3] = customSide(0);
+    }
     for (std::size_t i = 0; i < sizes_.size(); ++i) {
         sizes_[i]->setText(QString::number(numbers[i]));
     }
@@ -195,14 +198,29 @@ void ResizeD::Text1_Change() {
     showSizes();
 }
 
-bool ResizeD::apply() {
-    const Place place = proposed();
-    if (chosen() == kCustom &&
-        (place.height < kLeastCustomSide || place.width < kLeastCustomSide)) {
+/// Whether a link can have the size that was typed; tells why not.
+bool ResizeD::checkCustom() {
+    if (customSide(0) < kLeastCustomSide || customSide(1) < kLeastCustomSide) {
         boxes_.tell(QStringLiteral("Custom size is too small!  Minimum size is 5h X 5w."));
         return false;
     }
-    link_.setPlace(place);
+    for (QLineEdit* box : custom_) {
+        const QString problem = forms::numberProblem(box->text(), kLeastCustomSide);
+        if (!problem.isEmpty()) {
+            boxes_.show({.text = problem, .icon = forms::Box::Icon::exclamation});
+            box->setFocus();
+            box->selectAll();
+            return false;
+        }
+    }
+    return true;
+}
+
+bool ResizeD::apply() {
+    if (chosen() == kCustom && !checkCustom()) {
+        return false;
+    }
+    link_.setPlace(proposed());
     applyButton_->setEnabled(false);
     showSizes();
     return true;

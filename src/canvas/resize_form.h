@@ -37,6 +37,9 @@ class ResizeD : public forms::Form {
     void Command3_Click();
     [[nodiscard]] int chosen() const;
     [[nodiscard]] Place proposed() const;
+    /// What the author typed for the height, 0, or the width, 1. May lie outside 16 bits.
+    [[nodiscard]] int customSide(std::size_t side) const;
+    bool checkCustom();
     void showSizes();
 
     Link link_;

@@ -1,12 +1,12 @@
 #include "groups/number_box.h"
 
-#include <limits>
 #include <utility>
 
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QRegularExpressionValidator>
 
+#include "forms/number_problem.h"
 #include "store/numbers.h"
 
 namespace quorvel::groups {
@@ -42,16 +42,7 @@ int NumberBox::number() const {
 }
 
 QString NumberBox::problem() const {
-    using Limits = std::numeric_limits<std::int16_t>;
-    constexpr int kMostShown = 40;
-    if (number() >= Limits::min() && number() <= Limits::max()) {
-        return {};
-    }
-    return QStringLiteral(
-               "The number %1 cannot be saved.\n\nNumbers can be from %2 to %3.  Please enter "
-               "another one.")
-        .arg(text().left(kMostShown), QString::number(Limits::min()),
-             QString::number(Limits::max()));
+    return forms::numberProblem(text());
 }
 
 void NumberBox::mend() {

@@ -127,16 +127,42 @@ TEST_F(ResizeTest, CustomSizesBeginAtFiveByFive) {
     EXPECT_EQ(storedLink(1, kUp), (std::array{0, 32, 5, 5}));
 }
 
-TEST_F(ResizeTest, AHugeSizeEndsWithTheNumbers) {
+TEST_F(ResizeTest, ANumberOfMoreThan16BitsIsToldAndChangesNothing) {
     open(ProjectBuilder().scenes(2));
-    resize(3, [](QWidget& window) {
-        type(window, 0, QStringLiteral("99999999999999999999"));
-        type(window, 1, QStringLiteral("32768"));
+    resize(3, [this](QWidget& window) {
+        const Place before = place(LinkSide::right);
+        int refused = 0;
+        for (const auto& [height, width, wrong] :
+             {std::tuple{"32768", "50", 0}, std::tuple{"50", "40000", 1},
+              std::tuple{"50", "65536", 1}, std::tuple{"99999999999999999999", "50", 0}}) {
+            SCOPED_TRACE(height);
+            type(window, 0, QString::fromLatin1(height));
+            type(window, 1, QString::fromLatin1(width));
+            for (const char* button : {"Command1", "Command3"}) {
+                press(window, button);
+                ++refused;
+                ASSERT_EQ(boxes.shown().size(), static_cast<std::size_t>(refused));
+                EXPECT_EQ(boxes.texts().back(),
+                          QStringLiteral("The number %1 cannot be saved.\n\nNumbers can be from 5 "
+                                         "to 32767.  Please enter another one.")
+                              .arg(QString::fromLatin1(wrong == 0 ? height : width)));
+                EXPECT_EQ(place(LinkSide::right), before);
+                EXPECT_TRUE(window.isVisible());
+                EXPECT_TRUE(apply(window).isEnabled());
+                auto& box = control<QLineEdit>(window, QStringLiteral("Text1(%1)").arg(wrong));
+                EXPECT_EQ(window.focusWidget(), &box) << "the number to be corrected";
+                EXPECT_EQ(box.selectedText(), box.text());
+            }
+        }
+        EXPECT_EQ(label(window, "Label6(0)"), QStringLiteral("50"));
+        EXPECT_NE(label(window, "Label6(1)"), QStringLiteral("32767"))
+            << "no number that nobody typed";
+        type(window, 0, QStringLiteral("32767"));
         press(window, "Command3");
+        EXPECT_FALSE(window.isVisible());
     });
-    EXPECT_TRUE(boxes.shown().empty());
     leaveScene();
-    EXPECT_EQ(storedLink(1, kRight), (std::array{33, 667, 32767, 32767}));
+    EXPECT_EQ(storedLink(1, kRight), (std::array{33, 667, 50, 32767}));
 }
 
 TEST_F(ResizeTest, RestorePutsEachLinkWhereItsRowSays) {
