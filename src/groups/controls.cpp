@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QButtonGroup>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -157,10 +158,25 @@ FileBox::FileBox(const QString& name, const QString& spoken, QWidget* parent) : 
     setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("mmmmmmmm.wav")) + 12);
 }
 
+void FileBox::setClearable(const QString& tip) {
+    clearable_ = true;
+    setToolTip(tip);
+}
+
 void FileBox::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) {
-        Q_EMIT doubleClicked();
+    if (clearable_ && event->button() == Qt::LeftButton) {
+        Q_EMIT clearWanted();
     }
+}
+
+void FileBox::keyPressEvent(QKeyEvent* event) {
+    if (clearable_ && event->matches(QKeySequence::Delete)) {
+        if (!text().isEmpty()) {
+            Q_EMIT clearWanted();
+        }
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
 }
 
 OptionGroup::OptionGroup(const char* name, int firstIndex, const std::vector<const char*>& captions,

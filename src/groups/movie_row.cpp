@@ -75,7 +75,8 @@ MovieRow::MovieRow(Sheet& sheet, MoviePlay& movies, const Names& names, QWidget*
     playButton_->setToolTip(QStringLiteral("Play/ Stop"));
     followFile();
     connect(file, &QLineEdit::textChanged, this, &MovieRow::followFile);
-    connect(file, &FileBox::doubleClicked, this, [this] {
+    file->setClearable(kClearTip);
+    connect(file, &FileBox::clearWanted, this, [this] {
         file->clear();
         sheet_.touch();
     });

@@ -83,7 +83,8 @@ void SoundSpec::followAuthor() {
         }
         followFile();
     });
-    connect(file, &FileBox::doubleClicked, this, [this] {
+    file->setClearable(kClearTip);
+    connect(file, &FileBox::clearWanted, this, [this] {
         file->clear();
         sheet_.touch();
     });

@@ -28,7 +28,9 @@ SoundtrackRow::SoundtrackRow(Sheet& sheet, const Names& names, QWidget* parent)
         }
         followFile();
     });
-    connect(file, &FileBox::doubleClicked, this, &SoundtrackRow::cycle);
+    file->setClearable(
+        kClearTip + QStringLiteral(".\nDouble-click the empty box to stop the soundtrack instead"));
+    connect(file, &FileBox::clearWanted, this, &SoundtrackRow::cycle);
     connect(locate_, &QPushButton::clicked, this, &SoundtrackRow::locate);
     connect(playButton_, &QPushButton::clicked, this, [this] {
         if (playButton_->text() == kPlaying) {
