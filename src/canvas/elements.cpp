@@ -140,8 +140,33 @@ void SceneImage::paintEvent(QPaintEvent* event) {
     painter.drawImage(0, 0, image_);
 }
 
+bool AreaElement::glows() const {
+    // While it is carried its place is hidden; what follows the pointer is as clear as can be.
+    return underMouse() || isHidden();
+}
+
+void AreaElement::enterEvent(QEnterEvent* event) {
+    SceneElement::enterEvent(event);
+    update();
+}
+
+void AreaElement::leaveEvent(QEvent* event) {
+    SceneElement::leaveEvent(event);
+    update();
+}
+
+void AreaElement::draw(QPainter& painter) const {
+    if (glows()) {
+        painter.fillRect(rect(), QColor(255, 255, 255, 46));
+        painter.setPen(QColor(20, 26, 34, 90));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.setPen(QColor(255, 255, 255, 130));
+        painter.drawRect(rect().adjusted(1, 1, -2, -2));
+    }
+}
+
 LinkElement::LinkElement(store::LinkSide side, QWidget* parent)
-    : SceneElement(Kind::link, static_cast<int>(side), parent), side_(side) {
+    : AreaElement(Kind::link, static_cast<int>(side), parent), side_(side) {
     setAccessibleName(QStringLiteral("Link (%1)").arg(directionName(side)));
 }
 
@@ -150,26 +175,8 @@ void LinkElement::setLeads(bool leads) {
     update();
 }
 
-void LinkElement::enterEvent(QEnterEvent* event) {
-    SceneElement::enterEvent(event);
-    update();
-}
-
-void LinkElement::leaveEvent(QEvent* event) {
-    SceneElement::leaveEvent(event);
-    update();
-}
-
 void LinkElement::draw(QPainter& painter) const {
-    // While it is carried its place is hidden; what follows the pointer is as clear as can be.
-    const bool hovered = underMouse() || isHidden();
-    if (hovered) {
-        painter.fillRect(rect(), QColor(255, 255, 255, 46));
-        painter.setPen(QColor(20, 26, 34, 90));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
-        painter.setPen(QColor(255, 255, 255, 130));
-        painter.drawRect(rect().adjusted(1, 1, -2, -2));
-    }
+    AreaElement::draw(painter);
     // One chevron in the middle, white on a dark shadow, so that it is seen on any picture.
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(QRectF(rect()).center());
@@ -177,7 +184,7 @@ void LinkElement::draw(QPainter& painter) const {
     QPainterPath chevron(QPointF(-3.5, -8));
     chevron.lineTo(4.5, 0);
     chevron.lineTo(-3.5, 8);
-    const int strength = hovered ? 255 : (leads_ ? 200 : 130);
+    const int strength = glows() ? 255 : (leads_ ? 200 : 130);
     QPen pen(QColor(20, 26, 34, strength * 6 / 10), 5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     painter.strokePath(chevron, pen);
     pen.setColor(QColor(255, 255, 255, strength));

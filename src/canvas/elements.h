@@ -49,7 +49,7 @@ class SceneElement : public QWidget {
     [[nodiscard]] QString tag() const;
     void setTag(const QString& tag);
 
-    /// Draws what the element looks like, from its own top left; a QuickSpot looks like nothing.
+    /// Draws what the element looks like, from its own top left.
     virtual void draw(QPainter& painter) const;
 
   Q_SIGNALS:
@@ -85,8 +85,22 @@ class SceneImage : public SceneElement {
     QImage image_;
 };
 
+/// A rectangle without a picture of its own. It glows under the pointer and while it is carried, so
+/// that the author sees where it reaches.
+class AreaElement : public SceneElement {
+    Q_OBJECT
+  public:
+    using SceneElement::SceneElement;
+    void draw(QPainter& painter) const override;
+
+  protected:
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    [[nodiscard]] bool glows() const;
+};
+
 /// An exit along the scene's edge: a quiet mark that gets clearer under the pointer.
-class LinkElement : public SceneElement {
+class LinkElement : public AreaElement {
     Q_OBJECT
   public:
     LinkElement(store::LinkSide side, QWidget* parent);
@@ -94,10 +108,6 @@ class LinkElement : public SceneElement {
     /// A link that leads somewhere is marked more strongly.
     void setLeads(bool leads);
     void draw(QPainter& painter) const override;
-
-  protected:
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
 
   private:
     store::LinkSide side_;

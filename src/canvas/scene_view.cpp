@@ -85,7 +85,7 @@ void SceneView::makeElements() {
         followPointer(object);
         connect(object, &PictureElement::loaded, this, [this, object] { pictureLoaded(*object); });
         objects_[static_cast<std::size_t>(k)] = object;
-        auto* spot = new SceneElement(SceneElement::Kind::quickSpot, k, canvas_);
+        auto* spot = new AreaElement(SceneElement::Kind::quickSpot, k, canvas_);
         name(spot, QStringLiteral("NoGIF"), k);
         followPointer(spot);
         quickSpots_[static_cast<std::size_t>(k)] = spot;

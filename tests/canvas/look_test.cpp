@@ -87,6 +87,12 @@ TEST_P(Looks, AFullScene) {
     EXPECT_EQ(plain.pixelColor(kOrigin + QPoint(10, 100)), picture.pixelColor(10, 100))
         << "a link does not spoil the scene";
 
+    quickSpot(13).setAttribute(Qt::WA_UnderMouse);
+    const QImage glowing = shot("quickspot");
+    EXPECT_NE(glowing.pixelColor(kOrigin + QPoint(360, 330)), picture.pixelColor(360, 330));
+    EXPECT_EQ(glowing.pixelColor(kOrigin + QPoint(430, 330)), picture.pixelColor(430, 330));
+    quickSpot(13).setAttribute(Qt::WA_UnderMouse, false);
+
     link(2).setAttribute(Qt::WA_UnderMouse);
     const QImage hovered = shot("hovered");
     EXPECT_NE(hovered.pixelColor(kOrigin + QPoint(100, 10)), picture.pixelColor(100, 10));

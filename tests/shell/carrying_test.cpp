@@ -11,6 +11,21 @@
 namespace quorvel::test {
 namespace {
 
+/// Counts how often a widget is painted.
+class PaintCount : public QObject {
+  public:
+    PaintCount(QWidget& widget, int& count) : count_(count) { widget.installEventFilter(this); }
+
+  protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        count_ += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+  private:
+    int& count_;
+};
+
 class Carrying : public SceneFixture {
   protected:
     static ProjectBuilder twoScenes() {
@@ -52,6 +67,38 @@ TEST_F(Carrying, TheStatusLineTellsWhereTheObjectIsCarried) {
     EXPECT_EQ(panel(4), QStringLiteral("Size: 30h X 40w"));
     QTest::keyClick(&main(), Qt::Key_Escape);
     EXPECT_EQ(panel(3), QStringLiteral("Pos: x= 100 , y= 120"));
+}
+
+TEST_F(Carrying, AQuickSpotGlowsUnderThePointerAsALinkDoes) {
+    open(ProjectBuilder()
+             .scenes(2)
+             .object(1, 4, 1, 300, 200)
+             .editSlot(1, 4, [](store::ObjectSlotRecord& slot) {
+                 slot.SlotInt4To29[25] = 1;
+                 slot.SlotStr[4] = "60";
+                 slot.SlotStr[5] = "80";
+             }));
+    ASSERT_EQ(quickSpot(4).geometry(), QRect(300, 200, 80, 60));
+    const auto seen = [this](QPoint at) {
+        return main().view().canvas().grab().toImage().pixelColor(at);
+    };
+    const QPoint inSpot(310, 210);
+    const QPoint inLink(5, 60);
+    moveTo({500, 400});
+    const QColor ground = seen(inSpot);
+    EXPECT_EQ(seen(inSpot), seen(inSpot + QPoint(0, -50))) << "nothing is seen of it";
+    int drawn = 0;
+    const PaintCount count(quickSpot(4), drawn);
+    moveTo(inSpot);
+    EXPECT_NE(seen(inSpot), ground);
+    EXPECT_GT(drawn, 0) << "at once";
+    drawn = 0;
+    moveTo(inLink);
+    EXPECT_EQ(seen(inSpot), ground);
+    EXPECT_GT(drawn, 0);
+    const QColor glowing = seen(inLink);
+    moveTo({500, 400});
+    EXPECT_NE(seen(inLink), glowing);
 }
 
 TEST_F(Carrying, EscapePutsItBack) {
