@@ -53,7 +53,7 @@ bool isObject(const SceneElement& element) {
 }  // namespace
 
 Dragging::Dragging(SceneView& view, const store::Project& project)
-    : QObject(&view), view_(view), project_(project), ghost_(new DragGhost(&view.canvas())) {
+    : view_(view), project_(project), ghost_(new DragGhost(&view.canvas())) {
     for (SceneElement* element : view.movableElements()) {
         element->installEventFilter(this);
     }

@@ -15,11 +15,12 @@ namespace quorvel::canvas {
 
 class DragGhost;
 
-/// Owned by its view.
+/// Part of `ObjectActions`, and of nobody else; the ghost belongs to the canvas. The view may go
+/// first.
 class Dragging : public QObject {
     Q_OBJECT
   public:
-    /// Both must outlive it. Nothing can be moved in a scene that has no record of its own.
+    /// Nothing can be moved in a scene that has no record of its own. The project must outlive it.
     Dragging(SceneView& view, const store::Project& project);
 
     // The drag that is under way.

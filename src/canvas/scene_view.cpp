@@ -116,11 +116,17 @@ void SceneView::takeFocusFromElements() {
     }
 }
 
+void SceneView::setSceneImage(const forms::PicturePtr& picture) {
+    imagePicture_ = picture;
+    image_->setImage(picture->firstFrame());
+    sceneSize_->resize(picture->ok() ? picture->size() : QSize(0, 0));
+}
+
 void SceneView::GetSceneImage(const std::filesystem::path& file) {
     const forms::PicturePtr picture = pictures_.load(file);
-    image_->setImage(picture->firstFrame());
+    imageFile_ = file;
+    setSceneImage(picture);
     image_->setTag(picture->ok() ? QString::fromStdString(file.filename().string()) : QString());
-    sceneSize_->resize(picture->ok() ? picture->size() : QSize(0, 0));
     forms::letEventsRun();
     setSceneAlert(sceneSize_->size() != QSize(kSceneWidth, kSceneHeight));
     if (!picture->ok()) {
@@ -129,6 +135,8 @@ void SceneView::GetSceneImage(const std::filesystem::path& file) {
 }
 
 void SceneView::ClearSceneImage() {
+    imageFile_.clear();
+    imagePicture_.reset();
     image_->setImage({});
     image_->setTag({});
     sceneSize_->resize(0, 0);

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,11 @@ class SceneView : public QWidget {
     void GetSceneImage(const std::filesystem::path& file);
     /// The scene has no picture; there is nothing to alert about.
     void ClearSceneImage();
+
+    /// A picture's file may have been replaced: the scene's picture and those of the objects that
+    /// have another file by now are shown anew, everything else stays as it is, playing or not.
+    /// A scene's picture that cannot be shown any more stays until the scene is shown again.
+    void followPictureFiles();
 
     /// Makes links and objects follow the scene in memory. QuickSpots in it become valid.
     void ShowSceneObjects();
@@ -169,6 +175,10 @@ class SceneView : public QWidget {
     void clearObjects(bool betweenEvents);
     void clearObject(int k);
     ObjectFile describeObject(int k);
+    [[nodiscard]] ObjectFile fileOf(const store::ObjectSlot& slot) const;
+    [[nodiscard]] forms::PicturePtr pictureOf(const store::ObjectSlot& slot,
+                                              const ObjectFile& file);
+    void setSceneImage(const forms::PicturePtr& picture);
     void showObject(int k, const ObjectFile& file);
     void showQuickSpot(int k);
     void countLoaded();
@@ -196,6 +206,8 @@ class SceneView : public QWidget {
     // All arrays of elements begin at 1, as the names do; element 0 is not there.
     QWidget* canvas_ = nullptr;
     SceneImage* image_ = nullptr;
+    std::filesystem::path imageFile_;
+    std::weak_ptr<const forms::Picture> imagePicture_;  // as it was when it was shown
     QWidget* sceneSize_ = nullptr;
     std::array<LinkElement*, kLinks + 1> links_{};
     std::array<Outline*, kLinks + 1> linkBorders_{};

@@ -102,29 +102,35 @@ SceneView::ObjectFile SceneView::describeObject(int k) {
     if (type == store::ObjectType::hotSpot) {
         quickSpots_[i]->setTag(tagOf(type));
     }
+    return fileOf(slot);
+}
+
+SceneView::ObjectFile SceneView::fileOf(const store::ObjectSlot& slot) const {
     const std::string& name = store::word(slot, store::kPicture);
-    if (!store::hasPicture(type) || name.empty()) {
+    if (!store::hasPicture(store::typeOf(slot)) || name.empty()) {
         return {};
     }
     const auto found = store::findResource(project_.folder(), store::ResourceFolder::gfx, name);
     return {name, found.value_or(std::filesystem::path())};
 }
 
+forms::PicturePtr SceneView::pictureOf(const store::ObjectSlot& slot, const ObjectFile& file) {
+    if (file.name.empty()) {
+        return pictures_.stock(symbolOf(store::typeOf(slot)));
+    }
+    // A file that holds no picture is told as one that is not there.
+    const forms::PicturePtr picture = file.file.empty() ? nullptr : pictures_.load(file.file);
+    return picture != nullptr && picture->ok() ? picture
+                                               : pictures_.stock(QStringLiteral("file-not-found"));
+}
+
 void SceneView::showObject(int k, const ObjectFile& file) {
     const auto i = static_cast<std::size_t>(k);
     PictureElement& object = *objects_[i];
     store::ObjectSlot& slot = scene_.slot(k);
-    if (!file.file.empty()) {
-        // A file that holds no picture is told as one that is not there.
-        forms::PicturePtr picture = pictures_.load(file.file);
-        object.setPicture(picture->ok() ? picture
-                                        : pictures_.stock(QStringLiteral("file-not-found")));
-        if (filling_) {
-            countLoaded();
-        }
-    } else {
-        object.setPicture(pictures_.stock(file.name.empty() ? symbolOf(store::typeOf(slot))
-                                                            : QStringLiteral("file-not-found")));
+    object.setPicture(pictureOf(slot, file));
+    if (filling_ && !file.file.empty()) {
+        countLoaded();
     }
     object.moveTo(store::number(slot, store::kLeft), store::number(slot, store::kTop));
     quickSpots_[i]->moveTo(store::number(slot, store::kLeft), store::number(slot, store::kTop));
@@ -174,6 +180,35 @@ void SceneView::ShowObject(int k) {
         showObject(k, file);
     }
     redrawBorders();
+}
+
+void SceneView::followPictureFiles() {
+    if (filling_ || !linksPlaced_) {
+        return;  // no scene is shown, or not all of it yet
+    }
+    if (!imageFile_.empty()) {
+        const forms::PicturePtr picture = pictures_.load(imageFile_);
+        if (picture->ok() && picture != imagePicture_.lock()) {
+            setSceneImage(picture);
+            setSceneAlert(picture->size() != QSize(kSceneWidth, kSceneHeight));
+        }
+    }
+    bool changed = false;
+    for (int k = 1; k <= kObjects; ++k) {
+        const store::ObjectSlot& slot = scene_.slot(k);
+        if (!isPresent(slot)) {
+            continue;
+        }
+        PictureElement& object = *objects_[static_cast<std::size_t>(k)];
+        const forms::PicturePtr picture = pictureOf(slot, fileOf(slot));
+        if (picture != object.picture()) {
+            object.setPicture(picture);
+            changed = true;
+        }
+    }
+    if (changed) {
+        followObjectAlert();
+    }
 }
 
 void SceneView::UpdateObjectCount() {

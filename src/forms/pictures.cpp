@@ -112,7 +112,9 @@ PicturePtr PictureStore::load(const fs::path& file) {
     PicturePtr picture = entry.picture.lock();
     if (picture == nullptr || entry.modified != modified || entry.bytes != bytes) {
         picture = decode(file);
-        entry = {modified, bytes, picture};
+        // Rights can come back without the file changing.
+        const bool lasting = !picture->ok() && picture->problem() != Picture::Problem::refused;
+        entry = {modified, bytes, picture, lasting ? picture : nullptr};
     }
     if (picture->ok()) {
         keep(picture);
@@ -158,6 +160,9 @@ PicturePtr PictureStore::stock(const QString& name) {
 void PictureStore::clear() {
     kept_.clear();
     keptBytes_ = 0;
+    for (auto& [file, entry] : entries_) {
+        entry.failure.reset();
+    }
     std::erase_if(entries_, [](const auto& entry) { return entry.second.picture.expired(); });
 }
 

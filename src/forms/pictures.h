@@ -90,6 +90,7 @@ class PictureStore {
         std::filesystem::file_time_type modified;
         std::uintmax_t bytes = 0;
         std::weak_ptr<const Picture> picture;
+        PicturePtr failure;  // of a file that cannot be shown: it is not decoded again and again
     };
     void keep(const PicturePtr& picture);
 

@@ -30,7 +30,10 @@ class ObjectEditor : public groups::PropertyForm {
     /// "Object Index #" and the slot's number, for the foot of the window.
     QLayout* indexRow(const char* name);
 
-    void stored() override { house_.view.ShowObject(object_); }
+    void stored() override {
+        house_.view.ShowObject(object_);
+        house_.view.followPictureFiles();
+    }
     void closed() override { house_.CurObj = 0; }
 
   private:

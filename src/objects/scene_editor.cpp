@@ -246,6 +246,7 @@ void sceneimage::stored() {
         tools.lists.scenes.renamed(number - 1);
     }
     house_.keeper.ShowPicture();
+    house_.view.followPictureFiles();
     forms::letEventsRun();
 }
 

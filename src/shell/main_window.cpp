@@ -234,8 +234,12 @@ void Main::closeEvent(QCloseEvent* event) {
 
 void Main::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && view_->bordersOn()) {
-        view_->ToggleBorders(true);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        // Back from a paint program, for one.
+        view_->followPictureFiles();
+        if (view_->bordersOn()) {
+            view_->ToggleBorders(true);
+        }
     }
 }
 

@@ -42,6 +42,8 @@ void SceneEditors::open(HelpTopic topic, int quickTip, int object) {
     forms::letEventsRun();
     window.exec();
     actions_.CurObj = 0;
+    // A file can have been replaced though the window was left by Cancel.
+    view_.followPictureFiles();
 }
 
 }  // namespace quorvel::shell

@@ -138,6 +138,20 @@ TEST_F(Pictures, WhatIsNoFileIsNotOpened) {
     EXPECT_EQ(store_.load(pipe)->problem(), Problem::refused) << "a pipe would hang";
 }
 
+TEST_F(Pictures, WhatCannotBeShownIsNotReadAgainAndAgain) {
+    writeBytes(folder_ / "a.gif", "no picture");
+    const std::weak_ptr<const Picture> failed = store_.load(folder_ / "a.gif");
+    EXPECT_FALSE(failed.expired()) << "though nobody shows it";
+    EXPECT_EQ(store_.load(folder_ / "a.gif"), failed.lock());
+    writeBytes(folder_ / "a.gif", test::stillGif(20, 10));
+    EXPECT_TRUE(store_.load(folder_ / "a.gif")->ok()) << "a file that was changed is";
+    EXPECT_TRUE(failed.expired());
+    writeBytes(folder_ / "a.gif", "no picture");
+    const std::weak_ptr<const Picture> again = store_.load(folder_ / "a.gif");
+    store_.clear();
+    EXPECT_TRUE(again.expired());
+}
+
 TEST_F(Pictures, AnEmptyFile) {
     EXPECT_EQ(problemOf(""), Problem::damaged);
 }

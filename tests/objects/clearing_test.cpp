@@ -115,5 +115,38 @@ TEST_F(Clearing, APictureIsNotTakenAway) {
     editScene(expectKept);
 }
 
+TEST_F(Clearing, AFileThatReplacesAnotherIsShownByAllObjectsThatHaveIt) {
+    constexpr int kOther = 5;
+    slot(kOther) = slot(kSlot);
+    main().view().ShowObject(kOther);
+    ASSERT_EQ(main().view().objectElement(kOther).size(), QSize(40, 30));
+    const TempFolder pictures;
+    shell->settings().WrongFolder = 1;  // copies
+    const auto replaceBy = [&](int width, const Hand& hand) {
+        writeBytes(pictures / "door.gif", stillGif(width, 50));
+        dialogs.choice = text(pictures / "door.gif");
+        boxes.answer(forms::Answer::yes);
+        hand.click("Command7");
+    };
+    edit([&](const Hand& hand) {
+        replaceBy(80, hand);
+        hand.click("Command1");
+        EXPECT_EQ(main().view().objectElement(kSlot).size(), QSize(80, 50));
+        EXPECT_EQ(main().view().objectElement(kOther).size(), QSize(80, 50));
+        replaceBy(70, hand);
+        hand.click("Command3");
+    });
+    EXPECT_EQ(main().view().objectElement(kSlot).size(), QSize(70, 50))
+        << "left by Cancel, but the file was replaced";
+    EXPECT_EQ(main().view().objectElement(kOther).size(), QSize(70, 50));
+    writeBytes(files.gfx("door.gif"), stillGif(60, 20));
+    QEvent back(QEvent::ActivationChange);
+    main().activateWindow();
+    ASSERT_TRUE(waitUntil([this] { return main().isActiveWindow(); }));
+    QApplication::sendEvent(&main(), &back);
+    EXPECT_EQ(main().view().objectElement(kOther).size(), QSize(60, 20))
+        << "the author comes back from a paint program";
+}
+
 }  // namespace
 }  // namespace quorvel::test
