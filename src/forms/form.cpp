@@ -1,9 +1,15 @@
 #include "forms/form.h"
 
+#include <algorithm>
+
 #include <QBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShowEvent>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace quorvel::forms {
@@ -16,16 +22,72 @@ Form::Form(const QString& name, const QString& title, QWidget* parent) : QDialog
 
 void Form::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
-    if (event->spontaneous() || screen() == nullptr) {
+    // The screen of the window that opened it; its own is where it was seen last.
+    const QScreen* home = parentWidget() != nullptr ? parentWidget()->screen() : screen();
+    if (event->spontaneous() || home == nullptr) {
         return;
     }
-    const QRect area = screen()->availableGeometry();
+    const QRect area = home->availableGeometry();
+    const QSize room = area.size() - kFrameRoom;
     // Not adjustSize: that gives a window at most two thirds of the screen and squeezes its rows.
-    resize(sizeHint().expandedTo(minimumSize()).boundedTo(area.size()));
+    QSize wanted = sizeHint().expandedTo(minimumSize());
+    if (scroll_ == nullptr && wanted != wanted.boundedTo(room)) {
+        letContentScroll();
+    }
+    if (scroll_ != nullptr) {
+        const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, scroll_);
+        const QSize content = scroll_->widget()->sizeHint() + QSize(bar, 0);
+        wanted = QSize(std::max(content.width(), standingFoot_->sizeHint().width()),
+                       content.height() + standingFoot_->sizeHint().height());
+    }
+    resize(wanted.boundedTo(room));
     const QSize size = frameGeometry().size();
     const bool large = area.width() > 800 && area.height() > 600;
     move(area.left() + (area.width() - size.width()) / 2,
          large ? area.top() + (area.height() - size.height()) / 2 : area.top());
+}
+
+void Form::letContentScroll() {
+    QWidget* keyboard = focusWidget();
+    standingFoot_ = new QWidget(this);
+    auto* foot = new QVBoxLayout(standingFoot_);
+    foot->setContentsMargins(kFormMargin, kFormSpacing, kFormMargin, kFormMargin);
+    if (foot_ != nullptr) {
+        static_cast<QLayout*>(foot_->parent())->removeItem(foot_);
+        foot->addLayout(foot_);
+    } else {
+        foot->setContentsMargins({});
+    }
+    scroll_ = new QScrollArea(this);
+    scroll_->setObjectName(QStringLiteral("WindowContent"));
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    scroll_->setWidgetResizable(true);
+    auto* content = new QWidget;
+    content->setLayout(layout());
+    scroll_->setWidget(content);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    column->addWidget(scroll_, 1);
+    column->addWidget(standingFoot_);
+    setMinimumSize(0, 0);
+    scroll_->show();
+    standingFoot_->show();
+    if (keyboard != nullptr) {
+        keyboard->setFocus();
+    }
+}
+
+void Form::keyPressEvent(QKeyEvent* event) {
+    if (scroll_ != nullptr &&
+        (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown)) {
+        scroll_->verticalScrollBar()->triggerAction(event->key() == Qt::Key_PageUp
+                                                        ? QAbstractSlider::SliderPageStepSub
+                                                        : QAbstractSlider::SliderPageStepAdd);
+        return;
+    }
+    QDialog::keyPressEvent(event);
 }
 
 QVBoxLayout* Form::makeColumn() {
@@ -56,6 +118,7 @@ std::vector<QPushButton*> Form::addButtonRow(QVBoxLayout* column,
         made.push_back(button);
     }
     column->addLayout(row);
+    setFoot(row);
     return made;
 }
 

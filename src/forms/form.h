@@ -8,7 +8,10 @@
 #include <QString>
 
 class QBoxLayout;
+class QKeyEvent;
+class QLayout;
 class QPushButton;
+class QScrollArea;
 class QVBoxLayout;
 
 namespace quorvel::forms {
@@ -25,15 +28,21 @@ struct FormButton {
 };
 
 /// A modal window. On a screen over 800 wide and over 600 high it opens in the middle, on a smaller
-/// one at the top.
+/// one at the top. One that its screen has no room for scrolls, but for the row of buttons at its
+/// foot.
 class Form : public QDialog {
     Q_OBJECT
   public:
     /// `name` is the window's system name, which is its Qt object name too.
     Form(const QString& name, const QString& title, QWidget* parent);
 
+    /// True when the window shows how work goes on that must not be cut off.
+    [[nodiscard]] virtual bool isWorking() const { return false; }
+
   protected:
     void showEvent(QShowEvent* event) override;
+    /// Page Up and Page Down scroll.
+    void keyPressEvent(QKeyEvent* event) override;
 
     /// The column that a window's groups stand in, from top to bottom.
     QVBoxLayout* makeColumn();
@@ -43,11 +52,27 @@ class Form : public QDialog {
 
     /// A button with its system name and caption, at the end of `row`.
     QPushButton* addButton(QBoxLayout* row, const QString& name, const QString& caption);
+
+    /// What stays in sight when the window has to scroll: the last row of buttons, unless this says
+    /// that it stands in a larger layout.
+    void setFoot(QLayout* foot) { foot_ = foot; }
+    /// The widget around the foot while the window scrolls, else null.
+    [[nodiscard]] QWidget* standingFoot() const { return standingFoot_; }
+
+  private:
+    void letContentScroll();
+
+    QLayout* foot_ = nullptr;
+    QWidget* standingFoot_ = nullptr;
+    QScrollArea* scroll_ = nullptr;
 };
 
 /// The standard distance between a window's frame and its content, and between groups, in pixels.
 inline constexpr int kFormMargin = 12;
 inline constexpr int kFormSpacing = 8;
+
+/// What a desktop usually puts around a window, in logical pixels.
+inline constexpr QSize kFrameRoom(8, 34);
 
 /// The text `name(index)`, the object name of a control array's element.
 QString elementName(const QString& name, int index);

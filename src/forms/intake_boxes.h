@@ -19,6 +19,7 @@ class CopyingFile : public StandingForm {
   public:
     CopyingFile(const QString& name, QWidget* parent);
     void show(std::uintmax_t done, std::uintmax_t total);
+    [[nodiscard]] bool isWorking() const override { return true; }
 
   private:
     QProgressBar* bar_;

@@ -38,16 +38,11 @@ Pages* PropertyForm::addPages() {
 void PropertyForm::addButtons(const Buttons& names, const std::function<void()>& help,
                               QLayout* before) {
     auto* row = new QVBoxLayout;
-    const auto made = addButtonRow(row, {{names.apply, "Apply", [this] { SaveProps(); }},
-                                         {names.ok, "OK",
-                                          [this] {
-                                              if (!apply_->isEnabled() || SaveProps()) {
-                                                  accept();
-                                              }
-                                          },
-                                          FormButton::Role::byEnter},
-                                         {names.cancel, "Cancel", [this] { reject(); }},
-                                         {names.help, "Help", help, FormButton::Role::help}});
+    const auto made =
+        addButtonRow(row, {{names.apply, "Apply", [this] { SaveProps(); }},
+                           {names.ok, "OK", [this] { saveAndClose(); }, FormButton::Role::byEnter},
+                           {names.cancel, "Cancel", [this] { reject(); }},
+                           {names.help, "Help", help, FormButton::Role::help}});
     apply_ = made.front();
     apply_->setEnabled(false);
     if (names.restore != nullptr) {
@@ -64,6 +59,7 @@ void PropertyForm::addButtons(const Buttons& names, const std::function<void()>&
     }
     foot->addLayout(row, 1);
     column_->addLayout(foot);
+    setFoot(foot);
 }
 
 void PropertyForm::showEvent(QShowEvent* event) {
@@ -124,6 +120,20 @@ bool PropertyForm::SaveProps() {
     return true;
 }
 
+bool PropertyForm::isChanged() {
+    // A number that is still being typed counts.
+    sheet_.finishEditing(focusWidget());
+    return apply_ != nullptr && apply_->isEnabled();
+}
+
+bool PropertyForm::saveAndClose() {
+    if (isChanged() && !SaveProps()) {
+        return false;
+    }
+    accept();
+    return true;
+}
+
 void PropertyForm::tellProblem(const Binding& binding) {
     sheet_.tools().boxes.show({.text = binding.problem(), .icon = forms::Box::Icon::exclamation});
     lead(*binding.control());
@@ -146,6 +156,9 @@ void PropertyForm::makeRoom() {
     constexpr int kLowHeight = 55;
     full_ = geometry();
     content_->hide();
+    if (standingFoot() != nullptr) {
+        standingFoot()->hide();
+    }
     restoreIt_->show();
     layout()->activate();
     resize(width(), kLowHeight);
@@ -157,6 +170,9 @@ void PropertyForm::returnRoom() {
     }
     restoreIt_->hide();
     content_->show();
+    if (standingFoot() != nullptr) {
+        standingFoot()->show();
+    }
     resize(full_.size());
     full_ = {};
 }

@@ -23,6 +23,11 @@ class PropertyForm : public forms::Form {
 
     /// Stores what the controls show. False when the window refused; the author has been told.
     bool SaveProps();
+    /// What OK does: stores what the author changed, and closes. False when the window refused and
+    /// stays open.
+    bool saveAndClose();
+    /// Whether the author changed something that is not stored yet.
+    [[nodiscard]] bool isChanged();
     /// Stops what can be heard and seen.
     void StopPreviews() { Q_EMIT sheet_.closing(); }
 

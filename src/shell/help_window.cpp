@@ -59,7 +59,7 @@ HelpWindow::HelpWindow(const QString& folder, House house)
     splitter->setSizes({left, kSize.width() - left});
     column->addWidget(splitter, 1);
     addShortcuts();
-    resize(kSize);
+    resize(kSize.boundedTo(screen()->availableSize() - forms::kFrameRoom));
 }
 
 QToolButton* HelpWindow::addButton(QWidget* bar, const QString& name, const QString& icon,

@@ -26,6 +26,7 @@ class OpenProj : public forms::Form, public LoadProgress {
     void showStatus(const QString& text) override;
     void step() override;
     void unload() override;
+    [[nodiscard]] bool isWorking() const override { return true; }
 
   protected:
     void showEvent(QShowEvent* event) override;

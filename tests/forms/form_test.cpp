@@ -5,8 +5,11 @@
 #include <QBoxLayout>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 
 namespace quorvel::test {
@@ -58,6 +61,69 @@ TEST(Form, ATallWindowGetsTheHeightThatItsRowsNeed) {
     window.show();
     EXPECT_GE(tall->height(), tall->sizeHint().height());
     EXPECT_LE(window.height(), screen);
+}
+
+/// A window with more rows than any screen has room for.
+class HighWindow : public forms::Form {
+  public:
+    explicit HighWindow(int rows) : Form(QStringLiteral("high"), QStringLiteral("High"), nullptr) {
+        QVBoxLayout* column = makeColumn();
+        for (int i = 0; i < rows; ++i) {
+            boxes.push_back(new QLineEdit(this));
+            column->addWidget(boxes.back());
+        }
+        buttons = addButtonRow(
+            column, {{"Command1", "OK", [this] { accept(); }, forms::FormButton::Role::byEnter},
+                     {"Command2", "Cancel", [this] { reject(); }}});
+    }
+    /// Whether the author sees all of `widget`.
+    [[nodiscard]] bool isInSight(const QWidget& widget) const {
+        return widget.isVisible() && widget.visibleRegion().boundingRect().size() == widget.size();
+    }
+    std::vector<QLineEdit*> boxes;
+    std::vector<QPushButton*> buttons;
+};
+
+TEST(Form, OneThatItsScreenHasNoRoomForScrollsButItsButtonsStay) {
+    HighWindow window(100);
+    // The second time it scrolls already.
+    for (int time = 0; time < 2; ++time) {
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        const QRect area = window.screen()->availableGeometry();
+        EXPECT_TRUE(area.contains(window.frameGeometry()));
+        for (const QPushButton* button : window.buttons) {
+            EXPECT_TRUE(window.isInSight(*button));
+        }
+        EXPECT_TRUE(window.buttons.front()->isDefault());
+        EXPECT_EQ(window.findChildren<QScrollArea*>().size(), 1);
+        EXPECT_GE(window.boxes.front()->height(), window.boxes.front()->sizeHint().height());
+        EXPECT_TRUE(window.isInSight(*window.boxes.front()));
+        EXPECT_FALSE(window.isInSight(*window.boxes.back()));
+        const auto* scroll = window.findChild<QScrollArea*>();
+        EXPECT_EQ(scroll->horizontalScrollBar()->maximum(), 0);
+
+        QTest::keyClick(window.focusWidget(), Qt::Key_PageDown);
+        EXPECT_FALSE(window.isInSight(*window.boxes.front()));
+        QTest::keyClick(window.focusWidget(), Qt::Key_PageUp);
+        EXPECT_TRUE(window.isInSight(*window.boxes.front()));
+        // Who goes through the window by Tab sees where he is.
+        window.boxes.front()->setFocus();
+        for (std::size_t i = 1; i < window.boxes.size(); ++i) {
+            QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+            ASSERT_EQ(window.focusWidget(), window.boxes[i]);
+            ASSERT_TRUE(window.isInSight(*window.boxes[i])) << i;
+        }
+        window.buttons.front()->click();
+        EXPECT_FALSE(window.isVisible());
+        scroll->verticalScrollBar()->setValue(0);
+    }
+}
+
+TEST(Form, OneThatFitsDoesNotScroll) {
+    HighWindow window(5);
+    window.show();
+    EXPECT_TRUE(window.findChildren<QScrollArea*>().isEmpty());
 }
 
 TEST(Form, ElementsAreNamedByIndex) {

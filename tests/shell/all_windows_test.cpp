@@ -383,24 +383,28 @@ std::string nameOfLook(const ::testing::TestParamInfo<Look>& one) {
 INSTANTIATE_TEST_SUITE_P(Looks, AllWindows, ::testing::Values(Look::light, Look::dark), nameOfLook);
 INSTANTIATE_TEST_SUITE_P(Looks, AllEditors, ::testing::Values(Look::light, Look::dark), nameOfLook);
 
-/// The same windows in a process of its own, with `variable` set.
-void expectPassWith(const char* variable, const char* value) {
+/// The same windows in a process of its own, with `variable` set, on a screen of `screen` logical
+/// pixels, each of them `scale` device pixels wide.
+void expectPassWith(const char* variable, const char* value, QSize screen = {1600, 1200},
+                    int scale = 1, const char* filter = "Looks/All*") {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QString::fromLatin1(variable), QString::fromLatin1(value));
     environment.insert(QStringLiteral("QUORVEL_SCALED"), QString::fromLatin1(variable));
-    // A screen that holds 800 by 600 at double scale.
     const TempFolder folder;
     writeBytes(folder / "screen.json",
-               R"({"screens": [{"name": "one", "x": 0, "y": 0, "width": 1600, "height": 1200,
-                   "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+               QStringLiteral(R"({"screens": [{"name": "one", "x": 0, "y": 0, "width": %1,
+                   "height": %2, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": %3}]})")
+                   .arg(QString::number(screen.width()), QString::number(screen.height()),
+                        QString::number(scale))
+                   .toStdString());
     environment.insert(
         QStringLiteral("QT_QPA_PLATFORM"),
         QStringLiteral("offscreen:configfile=") + resources::pathText(folder / "screen.json"));
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("--gtest_filter=Looks/All*")});
+                  {QStringLiteral("--gtest_filter=") + QString::fromLatin1(filter)});
     ASSERT_TRUE(process.waitForFinished(100000));
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(process.exitCode(), 0) << process.readAll().toStdString();
@@ -408,6 +412,12 @@ void expectPassWith(const char* variable, const char* value) {
 
 TEST(AllWindowsScaled, PassAtDoubleScale) {
     expectPassWith("QT_SCALE_FACTOR", "2");
+}
+
+TEST(AllWindowsScaled, PassOnALowScreenOfDoubleScale) {
+    // What 1920 by 1080 device pixels are at 200 per cent. The main window fills it: see Screens.
+    expectPassWith("QUORVEL_LOW_SCREEN", "1", {960, 540}, 2,
+                   "Looks/AllEditors.*:Looks/AllWindows.*-*.Main*");
 }
 
 TEST(AllWindowsScaled, PassWithLettersOfDoubleSize) {

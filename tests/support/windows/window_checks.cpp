@@ -12,6 +12,8 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QTest>
 #include <QToolBar>
@@ -141,14 +143,22 @@ void expectFits(const QWidget& window) {
         // Letters that grow while all else stays need a larger screen; there the texts are whole.
         return;
     }
+    const QSize screen = kScreen.boundedTo(window.screen()->size());
     const QSize smallest = window.minimumSize().expandedTo(window.minimumSizeHint());
     const QSize size = window.size();
     // The main window fills a small screen and has no frame then.
     const QSize frame = isMain ? QSize(0, kFrame.height()) : kFrame;
-    EXPECT_LE(size.width() + frame.width(), kScreen.width()) << nameOf(window).toStdString();
-    EXPECT_LE(size.height() + frame.height(), kScreen.height()) << nameOf(window).toStdString();
-    EXPECT_LE(smallest.width(), kScreen.width()) << nameOf(window).toStdString();
-    EXPECT_LE(smallest.height(), kScreen.height()) << nameOf(window).toStdString();
+    EXPECT_LE(size.width() + frame.width(), screen.width()) << nameOf(window).toStdString();
+    EXPECT_LE(size.height() + frame.height(), screen.height()) << nameOf(window).toStdString();
+    EXPECT_LE(smallest.width(), screen.width()) << nameOf(window).toStdString();
+    EXPECT_LE(smallest.height(), screen.height()) << nameOf(window).toStdString();
+    // A window that scrolls keeps the buttons at its foot in sight.
+    for (const QPushButton* button : window.findChildren<QPushButton*>()) {
+        if (button->isVisible() && button->isDefault()) {
+            EXPECT_EQ(button->visibleRegion().boundingRect().size(), button->size())
+                << nameOf(*button).toStdString();
+        }
+    }
 }
 
 void expectTabReachesAll(QWidget& window) {
