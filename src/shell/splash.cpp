@@ -22,6 +22,7 @@ using namespace std::chrono_literals;
 /// The bar's value above which the forms count as loaded.
 constexpr int kBarGoal = 19;
 constexpr QSize kSize(420, 260);
+const QString kStarting = QStringLiteral("Starting Quorvel");
 
 QLabel* addLabel(QVBoxLayout* column, const char* name, const QString& text, double scale,
                  bool bold) {
@@ -105,6 +106,31 @@ void InitQV::paintEvent(QPaintEvent* /*event*/) {
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
+void InitQV::mousePressEvent(QMouseEvent* /*event*/) {
+    endWaiting();
+}
+
+void InitQV::keyPressEvent(QKeyEvent* /*event*/) {
+    endWaiting();
+}
+
+void InitQV::endWaiting() {
+    if (isStarted_) {
+        return;
+    }
+    timer1_.stop();
+    timer2_.stop();
+    timer3_.stop();
+    if (!isLoaded_) {
+        LoadForms();
+    }
+    pBar_.stop();
+    bar_->setValue(kBarGoal + 1);
+    label1_->setText(kStarting);
+    forms::letEventsRun();
+    startEditor();
+}
+
 void InitQV::Timer2_Timer() {
     timer2_.stop();
     forms::letEventsRun();
@@ -112,6 +138,7 @@ void InitQV::Timer2_Timer() {
 }
 
 void InitQV::LoadForms() {
+    isLoaded_ = true;
     bar_->setValue(0);
     pBar_.start();
     for (const auto& loadForm : work_.loadForms) {
@@ -131,12 +158,17 @@ void InitQV::Timer1_Timer() {
     }
     timer1_.stop();
     pBar_.stop();
-    label1_->setText(QStringLiteral("Starting Quorvel"));
+    label1_->setText(kStarting);
     timer3_.start();
 }
 
 void InitQV::Timer3_Timer() {
     timer3_.stop();
+    startEditor();
+}
+
+void InitQV::startEditor() {
+    isStarted_ = true;
     work_.initializeEditor();
     hide();
     forms::letEventsRun();

@@ -12,7 +12,8 @@ class QProgressBar;
 
 namespace quorvel::shell {
 
-/// Four timers drive it; their order is the design.
+/// Four timers drive it; their order is the design. A click or a key ends what is only waiting; the
+/// work is done all the same and in the same order.
 class InitQV : public QWidget {
     Q_OBJECT
   public:
@@ -29,10 +30,14 @@ class InitQV : public QWidget {
   protected:
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void build();
     void LoadForms();
+    void startEditor();
+    void endWaiting();
     void Timer1_Timer();
     void Timer2_Timer();
     void Timer3_Timer();
@@ -45,6 +50,8 @@ class InitQV : public QWidget {
     QTimer timer2_;
     QTimer timer3_;
     QTimer pBar_;
+    bool isLoaded_ = false;   ///< the forms are, or are about to be
+    bool isStarted_ = false;  ///< the same of the editor
 };
 
 }  // namespace quorvel::shell
