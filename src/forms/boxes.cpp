@@ -30,6 +30,8 @@ QMessageBox::StandardButtons buttonsOf(Box::Buttons buttons) {
             return QMessageBox::Ok | QMessageBox::Cancel;
         case Box::Buttons::yesNo:
             return QMessageBox::Yes | QMessageBox::No;
+        case Box::Buttons::yesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
         case Box::Buttons::ok:
             break;
     }
@@ -37,6 +39,19 @@ QMessageBox::StandardButtons buttonsOf(Box::Buttons buttons) {
 }
 
 }  // namespace
+
+Answer answerByEscape(Box::Buttons buttons) {
+    switch (buttons) {
+        case Box::Buttons::okCancel:
+        case Box::Buttons::yesNoCancel:
+            return Answer::cancel;
+        case Box::Buttons::yesNo:
+            return Answer::no;
+        case Box::Buttons::ok:
+            break;
+    }
+    return Answer::ok;
+}
 
 Answer MessageBoxes::show(const Box& box) {
     QMessageBox window(iconOf(box.icon), box.title, box.text, buttonsOf(box.buttons),

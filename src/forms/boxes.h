@@ -12,7 +12,7 @@ inline const QString kProgramTitle = QStringLiteral("Quorvel");
 
 struct Box {
     enum class Icon : std::uint8_t { none, information, question, exclamation, critical };
-    enum class Buttons : std::uint8_t { ok, okCancel, yesNo };
+    enum class Buttons : std::uint8_t { ok, okCancel, yesNo, yesNoCancel };
 
     QString text;  ///< plain text, lines separated by "\n"
     QString title = kProgramTitle;
@@ -22,6 +22,10 @@ struct Box {
 
 enum class Answer : std::uint8_t { ok, cancel, yes, no };
 
+/// The answer of a box that is closed with Escape or its frame: `cancel` or `no`, or `ok` where
+/// that is the only button.
+Answer answerByEscape(Box::Buttons buttons);
+
 class Boxes {
   public:
     Boxes() = default;
@@ -29,8 +33,8 @@ class Boxes {
     Boxes& operator=(const Boxes&) = delete;
     virtual ~Boxes() = default;
 
-    /// Shows the box modally and returns the author's answer. Closing a box with Escape or its
-    /// frame answers `cancel` or `no`, or `ok` where that is the only button.
+    /// Shows the box modally and returns the author's answer, `answerByEscape` where none is
+    /// chosen.
     virtual Answer show(const Box& box) = 0;
 
     /// A plain box with an OK button.

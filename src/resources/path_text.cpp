@@ -2,9 +2,6 @@
 
 #include <cstdio>
 
-#include <QCoreApplication>
-#include <QStringList>
-
 #include "store/paths.h"
 #include "store/utf8.h"
 
@@ -87,20 +84,6 @@ QString fromStoredPath(const QString& stored) {
     }
     const QByteArray coded = stored.mid(kUrl.size()).toLatin1();
     return bytesText(QByteArray::fromPercentEncoding(coded).toStdString());
-}
-
-QStringList argumentTexts(int argc, char** argv) {
-#ifdef Q_OS_WIN
-    (void)argc;
-    (void)argv;
-    return QCoreApplication::arguments().mid(1);  // names are wide here, and `argv` is not
-#else
-    QStringList texts;
-    for (int i = 1; i < argc; ++i) {
-        texts << bytesText(std::string_view(argv[i]));
-    }
-    return texts;
-#endif
 }
 
 bool openToRead(QFile& file, const fs::path& path) {

@@ -30,9 +30,6 @@ std::string pathBytes(const QString& text);
 QString storedPath(const QString& path);
 QString fromStoredPath(const QString& stored);
 
-/// The project files of the command line as `main` got it, without the name of the program.
-QStringList argumentTexts(int argc, char** argv);
-
 /// Opens the file at `path` for reading alone; `file` has no file yet. False when that failed.
 bool openToRead(QFile& file, const std::filesystem::path& path);
 

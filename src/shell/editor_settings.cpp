@@ -8,6 +8,11 @@
 namespace quorvel::shell {
 namespace {
 
+const QString kMainWindowPlace = QStringLiteral("MainWindowPlace");
+const QString kMainWindowMaximised = QStringLiteral("MainWindowMaximised");
+/// Left edge, upper edge, width and height.
+constexpr int kPlaceNumbers = 4;
+
 QString numbered(const char* name, std::size_t index) {
     return QString::fromLatin1(name) + QString::number(index + 1);
 }
@@ -91,6 +96,43 @@ void EditorSettings::turnOffQuickTip(int number) {
 
 void EditorSettings::turnOffAllQuickTips() {
     WriteRegValue(kNoTipsAtAll, QStringLiteral("1"));
+    sync();
+}
+
+std::optional<WindowPlace> EditorSettings::lastMainWindow() const {
+    constexpr int kMost = 32767;
+    const QStringList texts =
+        ReadRegValue(kMainWindowPlace).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    if (texts.size() != kPlaceNumbers) {
+        return std::nullopt;
+    }
+    std::array<int, kPlaceNumbers> numbers{};
+    for (int i = 0; i < kPlaceNumbers; ++i) {
+        bool isNumber = false;
+        int& value = numbers.at(static_cast<std::size_t>(i));
+        value = texts[i].toInt(&isNumber);
+        if (!isNumber || value < -kMost || value > kMost) {
+            return std::nullopt;
+        }
+    }
+    const QRect place(numbers[0], numbers[1], numbers[2], numbers[3]);
+    if (place.isEmpty()) {
+        return std::nullopt;
+    }
+    return WindowPlace{place, ReadRegValue(kMainWindowMaximised) == QStringLiteral("Yes")};
+}
+
+void EditorSettings::rememberMainWindow(const WindowPlace& place) {
+    const QRect& at = place.normal;
+    const QString text = QStringLiteral("%1 %2 %3 %4")
+                             .arg(QString::number(at.x()), QString::number(at.y()),
+                                  QString::number(at.width()), QString::number(at.height()));
+    const QString maximised = place.isMaximised ? QStringLiteral("Yes") : QStringLiteral("No");
+    if (text == ReadRegValue(kMainWindowPlace) && maximised == ReadRegValue(kMainWindowMaximised)) {
+        return;
+    }
+    WriteRegValue(kMainWindowPlace, text);
+    WriteRegValue(kMainWindowMaximised, maximised);
     sync();
 }
 

@@ -3,9 +3,12 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 
 #include <QSettings>
 #include <QString>
+
+#include "shell/screens.h"
 
 namespace quorvel::shell {
 
@@ -58,6 +61,12 @@ class EditorSettings {
     /// The value, or an empty text when there is none.
     [[nodiscard]] QString ReadRegValue(const QString& name) const;
     void WriteRegValue(const QString& name, const QString& value);
+
+    /// Where the main window was left the last time; nothing before that, or when what is stored
+    /// makes no sense.
+    [[nodiscard]] std::optional<WindowPlace> lastMainWindow() const;
+    /// Writes it, unless it is what is stored.
+    void rememberMainWindow(const WindowPlace& place);
 
     /// Puts a project to the head of the recent list; one that is on it moves up.
     void rememberProject(const QString& path);

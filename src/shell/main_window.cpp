@@ -18,7 +18,6 @@
 namespace quorvel::shell {
 namespace {
 
-constexpr QSize kSmallestScreen(800, 600);
 /// The working area below the menu bar on a larger screen.
 constexpr QSize kWorkingArea(800, 540);
 constexpr int kToolIcon = 20;
@@ -138,17 +137,21 @@ void Main::buildCentre(store::Project& project, store::Scene& scene,
     shutDwn_->hide();
 }
 
-void Main::showFor(QSize screen) {
-    const bool large =
-        screen.width() > kSmallestScreen.width() && screen.height() > kSmallestScreen.height();
-    if (large) {
-        resize(kWorkingArea.width(), kWorkingArea.height() + menuBar()->sizeHint().height());
-        move((screen.width() - width()) / 2, (screen.height() - height()) / 2);
-        showNormal();
-    } else {
-        resize(kSmallestScreen);
+QSize Main::usualSize() const {
+    return {kWorkingArea.width(), kWorkingArea.height() + menuBar()->sizeHint().height()};
+}
+
+void Main::showAt(const WindowPlace& place) {
+    setGeometry(place.normal);
+    if (place.isMaximised) {
         showMaximized();
+    } else {
+        showNormal();
     }
+}
+
+WindowPlace Main::place() const {
+    return {normalGeometry(), isMaximized()};
 }
 
 bool Main::isTime(const Entry& entry, const CommandState& state,

@@ -13,6 +13,7 @@
 #include "shell/commands.h"
 #include "shell/editor_settings.h"
 #include "shell/main_lists.h"
+#include "shell/screens.h"
 #include "shell/side_panel.h"
 #include "shell/status_lines.h"
 
@@ -45,8 +46,12 @@ class Main : public QMainWindow {
     [[nodiscard]] QWidget& movieArea() { return *movieArea_; }
     [[nodiscard]] MainLists& lists() { return *lists_; }
 
-    /// Size and state for a screen of `screen` pixels, then shows the window.
-    void showFor(QSize screen);
+    /// The size on a large screen when it opens for the first time, without the frame.
+    [[nodiscard]] QSize usualSize() const;
+    /// Shows the window there.
+    void showAt(const WindowPlace& place);
+    /// Where it stands.
+    [[nodiscard]] WindowPlace place() const;
 
     /// Enables each entry whose time it is and that somebody answers.
     void applyCommandState(const CommandState& state, const EditorSettings& settings);

@@ -2,10 +2,7 @@
 
 #include <utility>
 
-#include <QApplication>
-#include <QMessageBox>
 #include <QPushButton>
-#include <QTimer>
 
 #include "forms/events.h"
 #include "resources/path_text.h"
@@ -20,8 +17,30 @@ namespace quorvel::shell {
 using forms::Answer;
 using forms::Box;
 
+namespace {
+
+/// The same surroundings with other boxes.
+Surroundings withBoxes(Surroundings given, forms::Boxes& boxes) {
+    return {.boxes = boxes,
+            .dialogs = given.dialogs,
+            .programs = given.programs,
+            .screens = std::move(given.screens),
+            .random = std::move(given.random),
+            .quit = std::move(given.quit),
+            .beep = std::move(given.beep),
+            .complain = std::move(given.complain),
+            .makePreview = std::move(given.makePreview),
+            .machineValue = std::move(given.machineValue),
+            .programFolder = std::move(given.programFolder),
+            .userFolder = std::move(given.userFolder),
+            .arguments = std::move(given.arguments)};
+}
+
+}  // namespace
+
 Shell::Shell(Surroundings surroundings)
-    : surroundings_(std::move(surroundings)),
+    : boxes_(surroundings.boxes, surroundings.complain),
+      surroundings_(withBoxes(std::move(surroundings), boxes_)),
       traps_(surroundings_.boxes, project_),
       models_(project_.lists),
       intakeBoxes_(surroundings_.boxes),
@@ -33,12 +52,14 @@ Shell::Shell(Surroundings surroundings)
                                             .InstallPath = InstallPath};
           },
           intakeBoxes_),
-      fileChoice_(surroundings_.dialogs, intake_) {}
+      fileChoice_(surroundings_.dialogs, intake_) {
+    connect(&askAgain_, &QTimer::timeout, this, &Shell::openWaiting);
+}
 
 Shell::~Shell() = default;
 
 bool Shell::CheckRes() {
-    const QSize screen = surroundings_.screenSize();
+    const QSize screen = surroundings_.screens().front().devicePixels();
     if (screen.width() >= 800 && screen.height() >= 600) {
         return true;
     }
@@ -57,7 +78,11 @@ bool Shell::CheckRes() {
 }
 
 std::vector<std::function<void()>> Shell::loadForms() {
-    return {[this] { loadMain(); }};
+    return {[this] {
+        if (!shuttingDown_) {  // the system's request came while the splash painted
+            loadMain();
+        }
+    }};
 }
 
 void Shell::loadMain() {
@@ -160,6 +185,16 @@ void Shell::loadActions() {
 }
 
 void Shell::InitializeEditor() {
+    if (shuttingDown_ || isUnattended_) {
+        return;
+    }
+    isStarting_ = true;
+    initialize();
+    isStarting_ = false;
+    openWaiting();
+}
+
+void Shell::initialize() {
     settings_.whenNotWritten = [this](const QString& file) {
         surroundings_.boxes.show(
             {.text =
@@ -171,6 +206,9 @@ void Shell::InitializeEditor() {
     settings_.GetEditorSettings();
     InstallPath = ResolveInstallPath(surroundings_.programFolder, surroundings_.userFolder);
     forms::letEventsRun();
+    if (shuttingDown_) {
+        return;
+    }
     HelpFile = InstallPath + QStringLiteral("help/index.html");
     if (settings_.isFirstRun()) {
         settings_.setFirstRunDefaults();
@@ -179,7 +217,8 @@ void Shell::InitializeEditor() {
     main_->showRecentProjects(settings_);
     refreshCommands();
     EditorRunning = true;
-    main_->showFor(surroundings_.screenSize());
+    main_->showAt(
+        placeToOpen(surroundings_.screens(), settings_.lastMainWindow(), main_->usualSize()));
     openCommandLine();
     if (surroundings_.arguments.isEmpty() && settings_.TipsAtStart == QStringLiteral("Yes")) {
         guide_->showTipAtStart();
@@ -188,6 +227,13 @@ void Shell::InitializeEditor() {
 
 void Shell::openCommandLine() {
     for (const QString& argument : surroundings_.arguments) {
+        if (isUnattended_) {
+            return;
+        }
+        const SplitPath split = fullPath(argument);
+        if (isMissing(split.folder + split.name)) {
+            surroundings_.complain(QStringLiteral("File not found: ") + split.folder + split.name);
+        }
         if (settings_.TipsAtStart == QStringLiteral("Yes")) {
             settings_.TipsAtStart = QStringLiteral("YesNow");
         }
@@ -310,6 +356,10 @@ bool Shell::CloseProject() {
     const canvas::SaveOutcome outcome = keeper_->SaveScene();
     const bool loses = outcome == canvas::SaveOutcome::failed ||
                        (outcome == canvas::SaveOutcome::readOnly && keeper_->holdsUnsaved());
+    if (loses && isUnattended_) {
+        surroundings_.complain(
+            QStringLiteral("The current scene could not be saved; its changes are lost."));
+    }
     if (loses && !isUnattended_ &&
         surroundings_.boxes.show(
             {.text = QStringLiteral("The current scene could not be saved.\n\nDo you want to close "
@@ -357,6 +407,16 @@ void Shell::ResetShell() {
     refreshCommands();
 }
 
+void Shell::rememberMainWindow() {
+    const WindowPlace place = main_->place();
+    const std::vector<ScreenPlace> screens = surroundings_.screens();
+    const ScreenPlace* screen = screenOf(place.normal, screens);
+    // A small screen gives the window its size; that of the author's larger one is kept.
+    if (EditorRunning && screen != nullptr && screen->isLarge()) {
+        settings_.rememberMainWindow(place);
+    }
+}
+
 void Shell::ExitProgram() {
     if (shuttingDown_) {
         return;
@@ -369,6 +429,7 @@ void Shell::ExitProgram() {
             return;
         }
         guide_->closeWindows();
+        rememberMainWindow();
         main_->showShutdown();
         preview_->StopMovie();
         forms::letEventsRun();
@@ -381,29 +442,6 @@ void Shell::ExitProgram() {
         }
     }
     surroundings_.quit();
-}
-
-void Shell::endByRequest() {
-    constexpr int kAgainMs = 100;
-    isUnattended_ = true;
-    QTimer::singleShot(kAgainMs, this, &Shell::endByRequest);
-    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-        // Nobody is there to answer: boxes are left as with Escape, those of the end itself too.
-        box->close();
-    } else if (!project_.ProjectLoading) {  // an open cannot be cut off
-        ExitProgram();
-    }
-}
-
-void Shell::activate() {
-    if (!main_ || !main_->isVisible()) {
-        return;
-    }
-    if (main_->isMinimized()) {
-        main_->showNormal();
-    }
-    main_->raise();
-    main_->activateWindow();
 }
 
 }  // namespace quorvel::shell

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include <QObject>
+#include <QTimer>
 
 #include "canvas/object_actions.h"
 #include "canvas/scene_keeper.h"
@@ -18,6 +19,7 @@
 #include "forms/preview.h"
 #include "forms/record_lists.h"
 #include "forms/traps.h"
+#include "shell/absence.h"
 #include "shell/author_guide.h"
 #include "shell/commands.h"
 #include "shell/editor_settings.h"
@@ -62,12 +64,25 @@ class Shell : public QObject {
     /// Ends the process in order.
     void ExitProgram();
 
-    /// Ends the process as the system asks: boxes that are open are left unanswered, and a project
-    /// that is being opened is waited for.
+    /// Ends the process as the system asks, with nobody there: a property window is left as by OK,
+    /// other windows and boxes as by Escape, and what is lost by that is told in lines. A project
+    /// that is being opened and a file that is being copied are waited for.
     void endByRequest();
 
-    /// Brings the main window to the front.
+    /// Saves what is in memory because the session ends, as far as that is known now: it may go on
+    /// after all. With `mayAsk` the author is asked what becomes of the changes in an open property
+    /// window. False when the author, or a failure that was told, wants the session to go on.
+    bool saveForSession(bool mayAsk);
+
+    /// Brings the main window to the front, and the one that stands before it.
     void activate();
+
+    /// Tells a line to whoever started the program.
+    void complain(const QString& line) { surroundings_.complain(line); }
+
+    /// Comes to the front and opens these projects, one after another, each as soon as no modal
+    /// window, no menu, no opening and no drag is under way. The one that is open stays as it is.
+    void openWhenFree(const QStringList& projects);
 
     void ToggleAnimations(bool on);
     void ToggleBorders(bool on);
@@ -91,6 +106,11 @@ class Shell : public QObject {
     bool EditorRunning = false;  ///< from the end of the start to the shutdown
 
   private:
+    void initialize();
+    void rememberMainWindow();
+    [[nodiscard]] bool isFree() const;
+    void openWaiting();
+    [[nodiscard]] bool isOpen(const QString& path) const;
     void loadMain();
     void loadPreview();
     void loadGuide();
@@ -119,6 +139,7 @@ class Shell : public QObject {
     void showEditorOptions();
     void insertObject();
 
+    AttendedBoxes boxes_;
     Surroundings surroundings_;
     EditorSettings settings_;
     store::Project project_;
@@ -141,6 +162,10 @@ class Shell : public QObject {
     std::unique_ptr<PlayerKeeper> player_;
     std::map<Command, std::function<void()>> answers_;
     int objectCount_ = 0;
+    QStringList waiting_;  ///< projects that another start of the editor has sent
+    QTimer askAgain_;      ///< runs while they wait
+    bool isStarting_ = false;
+    bool isOpening_ = false;  ///< one of those that waited
     bool shuttingDown_ = false;
     bool isUnattended_ = false;  ///< the system ends the editor, nobody answers any more
 };

@@ -14,9 +14,9 @@ class StartForm : public QObject {
   public:
     StartForm(Shell& shell, SingleInstance& instance);
 
-    /// False when the process has to end at once: another editor runs and was brought to the
-    /// front, or the author does not go on with a small screen.
-    bool begin();
+    /// False when the process has to end at once: another editor runs, was given `projects` and
+    /// came to the front, or the author does not go on with a small screen.
+    bool begin(const QStringList& projects = {});
 
   private:
     Shell& shell_;
@@ -24,7 +24,9 @@ class StartForm : public QObject {
     std::unique_ptr<InitQV> splash_;
 };
 
-/// Runs the editor until the author leaves it; the process's exit code.
+/// Runs the editor until the author leaves it, or does what an option asks instead. The process's
+/// exit code: 0, also after a project that could not be opened; 1 without a display; 2 after an
+/// option that nobody knows.
 int runEditor(int argc, char** argv);
 
 }  // namespace quorvel::shell

@@ -3,8 +3,8 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
-#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -13,6 +13,7 @@
 #include "forms/preview.h"
 #include "resources/programs.h"
 #include "shell/about_box.h"
+#include "shell/screens.h"
 #include "store/project.h"
 
 namespace quorvel::shell {
@@ -28,10 +29,12 @@ struct Surroundings {
     forms::Boxes& boxes;
     forms::FileDialogs& dialogs;
     resources::Programs& programs;
-    std::function<QSize()> screenSize;  ///< in pixels
-    std::function<double()> random;     ///< from 0 up to but not including 1
-    std::function<void()> quit;         ///< ends the event loop
-    std::function<void()> beep;         ///< the desktop's sound for a key that is not taken
+    std::function<std::vector<ScreenPlace>()> screens;  ///< the primary one first; never empty
+    std::function<double()> random;                     ///< from 0 up to but not including 1
+    std::function<void()> quit;                         ///< ends the event loop
+    std::function<void()> beep;  ///< the desktop's sound for a key that is not taken
+    /// Tells a line to whoever started the program, for what no box can tell.
+    std::function<void(const QString&)> complain;
     /// Makes the preview of a project, with its movies in the middle of a widget.
     std::function<PreviewParts(const store::Project&, QWidget* movieArea)> makePreview;
     MachineValue machineValue;  ///< reads the registry of the machine

@@ -1,20 +1,17 @@
-// The start of the process: the screen, the splash, one editor at a time, the main window's size.
+// The start of the process: the screen, the main window's size, an end at each stage, a second
+// start.
 #include "shell/start.h"
 
-#include <atomic>
-#include <barrier>
 #include <gtest/gtest.h>
-#include <thread>
 #include <vector>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QLabel>
-#include <QLocalSocket>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QRandomGenerator>
 #include <QTest>
+#include <QTimer>
 
 #include "support/windows/shell_fixture.h"
 
@@ -112,109 +109,113 @@ TEST_F(Start, TheEditorRunsFromTheEndOfTheStart) {
     EXPECT_TRUE(shell->HelpFile.startsWith(shell->InstallPath));
 }
 
-// The splash
+// The system ends the editor at each stage of its start
 
-class Splash : public ::testing::Test {
+class EndedStart : public Start {
   protected:
-    struct Event {
-        std::string what;
-        qint64 ms;
-    };
-    void note(const std::string& what) { events.push_back({what, clock.elapsed()}); }
-    QElapsedTimer clock;
-    std::vector<Event> events;
+    /// Starts as the program does, with a splash; `atStage` is asked for as long as the editor
+    /// lives and says that its stage is there.
+    void endAt(const std::function<bool()>& atStage) {
+        shell::SingleInstance instance(name);
+        shell::StartForm form(*shell, instance);
+        ASSERT_TRUE(form.begin());
+        bool reached = false;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            if (!reached && atStage()) {
+                reached = true;
+                shell->endByRequest();
+            }
+        });
+        look.start(1);
+        ASSERT_TRUE(waitUntil([this] { return quits == 1; }, 60000));
+        EXPECT_TRUE(reached);
+        look.stop();
+        EXPECT_TRUE(boxes.shown().empty()) << boxes.texts().join(u'|').toStdString();
+        QWidget* splash = visibleWindow(QStringLiteral("InitQV"));
+        if (splash != nullptr) {  // the end of the loop takes it away
+            QTest::mouseClick(splash, Qt::LeftButton);
+        }
+        EXPECT_EQ(visibleWindow(QStringLiteral("Main")), nullptr);
+        EXPECT_EQ(visibleWindow(QStringLiteral("InitQV")), nullptr);
+        EXPECT_EQ(quits, 1);
+        shell.reset();
+    }
+    static bool isShown(const char* window) {
+        return visibleWindow(QString::fromLatin1(window)) != nullptr;
+    }
+    static QString splashText() {
+        return control<QLabel>(*visibleWindow(QStringLiteral("InitQV")), QStringLiteral("Label1"))
+            .text();
+    }
+    static int barValue() {
+        return control<QProgressBar>(*visibleWindow(QStringLiteral("InitQV")),
+                                     QStringLiteral("ProgressBar1"))
+            .value();
+    }
 };
 
-TEST_F(Splash, ShowsItsTexts) {
-    shell::InitQV splash({});
-    EXPECT_EQ(splash.objectName(), QStringLiteral("InitQV"));
-    const auto label = [&](const char* name) {
-        return control<QLabel>(splash, QString::fromLatin1(name)).text();
-    };
-    EXPECT_EQ(label("Label1"), QStringLiteral("Please wait while Quorvel initializes..."));
-    EXPECT_EQ(label("Label2"), QStringLiteral("Tessaroon Works"));
-    EXPECT_EQ(label("Label3"), QStringLiteral("This program is freeware!"));
-    EXPECT_EQ(label("Label4"), QStringLiteral("Version 3.03.0001"));
-    EXPECT_TRUE(splash.windowFlags().testFlag(Qt::SplashScreen));
-    EXPECT_EQ(control<QProgressBar>(splash, QStringLiteral("ProgressBar1")).value(), 0);
+TEST_F(EndedStart, BeforeTheFormsAreLoaded) {
+    makeShell({1280, 800});
+    endAt([] { return isShown("InitQV"); });
 }
 
-TEST_F(Splash, LoadsTheFormsThenStartsTheEditor) {
-    clock.start();
-    int barAfterForms = 0;
-    std::unique_ptr<shell::InitQV> splash;
-    bool visibleWhileStarting = false;
-    splash = std::make_unique<shell::InitQV>(
-        shell::InitQV::Work{{[this] { note("first form"); }, [this] { note("second form"); }}, [&] {
-                                note("editor");
-                                visibleWhileStarting = splash->isVisible();
-                            }});
-    auto& bar = control<QProgressBar>(*splash, QStringLiteral("ProgressBar1"));
-    auto& label = control<QLabel>(*splash, QStringLiteral("Label1"));
-    QObject::connect(splash.get(), &shell::InitQV::finished, splash.get(),
-                     [this] { note("finished"); });
-    splash->show();
-    ASSERT_TRUE(waitUntil([&] { return events.size() == 2; }));
-    barAfterForms = bar.value();
-    EXPECT_GE(barAfterForms, 2) << "a step for each form";
-    ASSERT_TRUE(waitUntil([&] { return label.text() == QStringLiteral("Starting Quorvel"); }));
-    EXPECT_GT(bar.value(), 19);
-    EXPECT_EQ(events.size(), 2U);
-    const int full = bar.value();
-    ASSERT_TRUE(waitUntil([&] { return events.size() == 4; }));
-    EXPECT_EQ(bar.value(), full) << "the bar's timer has stopped";
-
-    EXPECT_EQ(events[0].what, "first form");
-    EXPECT_EQ(events[1].what, "second form");
-    EXPECT_EQ(events[2].what, "editor");
-    EXPECT_EQ(events[3].what, "finished");
-    EXPECT_GE(events[0].ms, 950);
-    EXPECT_GE(events[2].ms - events[0].ms, 18 * 120 - 100 + 1900);
-    EXPECT_TRUE(visibleWhileStarting);
-    EXPECT_FALSE(splash->isVisible());
+TEST_F(EndedStart, WhileTheBarMoves) {
+    makeShell({1280, 800});
+    endAt([] { return isShown("InitQV") && barValue() > 2; });
 }
 
-// One editor at a time
-
-TEST_F(Start, ASecondEditorAsksTheFirstToComeForward) {
-    shell::SingleInstance first(name);
-    shell::SingleInstance second(name);
-    int asked = 0;
-    QObject::connect(&first, &shell::SingleInstance::activationAsked, [&] { ++asked; });
-    EXPECT_TRUE(first.claim());
-    EXPECT_FALSE(second.claim());
-    EXPECT_TRUE(waitUntil([&] { return asked == 1; }));
+TEST_F(EndedStart, WhileItSaysStartingQuorvel) {
+    makeShell({1280, 800});
+    endAt([] { return isShown("InitQV") && splashText() == QStringLiteral("Starting Quorvel"); });
 }
 
-TEST_F(Start, AnEditorThatEndedDoesNotCount) {
-    {
-        shell::SingleInstance gone(name);
-        EXPECT_TRUE(gone.claim());
+TEST_F(EndedStart, BetweenTheStepsOfTheLastStage) {
+    makeShell({1280, 800});
+    for (const auto& loadForm : shell->loadForms()) {
+        loadForm();
     }
-    shell::SingleInstance next(name);
-    EXPECT_TRUE(next.claim());
+    QTimer::singleShot(0, [this] { shell->endByRequest(); });
+    shell->InitializeEditor();
+    EXPECT_EQ(quits, 1);
+    EXPECT_FALSE(main().isVisible());
+    EXPECT_FALSE(shell->EditorRunning);
 }
 
-TEST_F(Start, OfEditorsThatStartAtTheSameMomentOneIsTheFirst) {
-    for (int round = 0; round < 20; ++round) {
-        constexpr int kEditors = 4;
-        std::barrier together(kEditors);
-        std::barrier answered(kEditors);
-        std::atomic<int> firsts = 0;
-        std::vector<std::thread> editors;
-        for (int i = 0; i < kEditors; ++i) {
-            editors.emplace_back([&] {
-                shell::SingleInstance instance(name);
-                together.arrive_and_wait();
-                firsts += instance.claim() ? 1 : 0;
-                answered.arrive_and_wait();
-            });
-        }
-        for (std::thread& editor : editors) {
-            editor.join();
-        }
-        ASSERT_EQ(firsts, 1) << round;
-    }
+TEST_F(EndedStart, WhileAProjectOfTheCommandLineOpens) {
+    const TestProject files = ProjectBuilder().scenes(3).build(projects.path());
+    const FolderSnapshot before = snapshotOf(projects.path());
+    makeShell({1280, 800}, {text(files.projectPath()), text(files.projectPath())});
+    endAt([] { return isShown("OpenProj"); });
+    EXPECT_EQ(differences(before, snapshotOf(projects.path())), "");
+}
+
+TEST_F(EndedStart, WhileTheTipOfTheDayStands) {
+    forgetSettings();
+    makeShell({1280, 800});
+    endAt([] { return isShown("frmTip"); });
+}
+
+TEST_F(EndedStart, WhileTheSplashLetsEventsRun) {
+    makeShell({1280, 800});
+    std::vector<std::function<void()>> forms = shell->loadForms();
+    forms.insert(forms.begin(),
+                 [this] { QTimer::singleShot(0, [this] { shell->endByRequest(); }); });
+    shell::InitQV splash({forms, [this] { shell->InitializeEditor(); }});
+    splash.show();
+    QTest::mouseClick(&splash, Qt::LeftButton);
+    EXPECT_EQ(quits, 1);
+    EXPECT_FALSE(splash.isVisible());
+    EXPECT_EQ(visibleWindow(QStringLiteral("Main")), nullptr);
+}
+
+TEST_F(Start, AMissingProjectIsToldToWhoeverStartedTheProgramToo) {
+    const QString missing = text(projects / "none.qvl");
+    start({missing});
+    EXPECT_EQ(complaints, QStringList{QStringLiteral("File not found: ") + missing});
+    EXPECT_FALSE(boxes.shown().empty());
+    EXPECT_TRUE(main().isVisible());
+    EXPECT_EQ(quits, 0);
 }
 
 TEST_F(Start, ASecondEditorShowsNothingAndActivatesTheFirst) {
@@ -230,10 +231,15 @@ TEST_F(Start, ASecondEditorShowsNothingAndActivatesTheFirst) {
     shell::Shell other({.boxes = otherBoxes,
                         .dialogs = dialogs,
                         .programs = programs,
-                        .screenSize = [] { return QSize(640, 480); },
+                        .screens =
+                            [] {
+                                const QRect small(0, 0, 640, 480);
+                                return std::vector{shell::ScreenPlace{small, small}};
+                            },
                         .random = [] { return 0.5; },
                         .quit = [] {},
                         .beep = [] {},
+                        .complain = [](const QString& /*line*/) {},
                         .makePreview = {},
                         .machineValue = {},
                         .programFolder = QCoreApplication::applicationDirPath(),

@@ -31,10 +31,15 @@ shell::Surroundings ShellFixture::surroundings(const QStringList& arguments, QSi
         .boxes = boxes,
         .dialogs = dialogs,
         .programs = programs,
-        .screenSize = [screen] { return screen; },
+        .screens =
+            [this, screen] {
+                const QRect whole({0, 0}, screen);
+                return screens.empty() ? std::vector{shell::ScreenPlace{whole, whole}} : screens;
+            },
         .random = [this] { return nextRandom; },
         .quit = [this] { ++quits; },
         .beep = [this] { ++beeps; },
+        .complain = [this](const QString& line) { complaints << line; },
         .makePreview =
             [this](const store::Project&, QWidget*) {
                 auto made = std::make_unique<RecordedPreview>();

@@ -47,6 +47,9 @@ class ShellFixture : public ::testing::Test {
     PlayedPrograms programs;
     QMap<QString, QString> machineValues;  ///< by key, backslash and name
     double nextRandom = 0.5;
+    /// The screens of the machine, instead of the one that `start` is given.
+    std::vector<shell::ScreenPlace> screens;
+    QStringList complaints;  ///< lines for whoever started the program
     int quits = 0;
     int beeps = 0;
     /// What the editor previews; it belongs to the shell.
