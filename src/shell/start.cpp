@@ -61,8 +61,10 @@ bool StartForm::begin(const QStringList& projects) {
 
 namespace {
 
-PreviewParts makePreview(const store::Project& project, QWidget* movieArea) {
-    auto preview = std::make_unique<forms::ProjectPreview>(project, media::PreviewOptions{});
+PreviewParts makePreview(const store::Project& project, QWidget* movieArea,
+                         const std::function<void()>& leftBehind) {
+    auto preview = std::make_unique<forms::ProjectPreview>(
+        project, media::PreviewOptions{.leftBehind = leftBehind});
     // Movies end before the widget does: the shell lets the preview go first.
     auto* player = new forms::MoviePlayer(preview->movieFrames(), movieArea);
     return {std::move(preview), player};
@@ -95,7 +97,8 @@ QStringList absolute(QStringList paths) {
     return paths;
 }
 
-int runEditor(const CommandLine& line, QApplication& application) {
+/// `soundHangs` becomes true when a thread of the sound system was left behind.
+int runEditor(const CommandLine& line, QApplication& application, bool& soundHangs) {
     QApplication::setApplicationName(QStringLiteral("Quorvel"));
     QApplication::setOrganizationName(QStringLiteral("TessaroonWorks"));
     QApplication::setApplicationVersion(kEditorVersion);
@@ -114,7 +117,11 @@ int runEditor(const CommandLine& line, QApplication& application) {
                  .quit = [] { QCoreApplication::quit(); },
                  .beep = [] { QApplication::beep(); },
                  .complain = complain,
-                 .makePreview = makePreview,
+                 .makePreview =
+                     [&soundHangs](const store::Project& project, QWidget* movieArea) {
+                         return makePreview(project, movieArea,
+                                            [&soundHangs] { soundHangs = true; });
+                     },
                  .machineValue = readMachineValue,
                  .programFolder = QCoreApplication::applicationDirPath(),
                  .userFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
@@ -163,7 +170,15 @@ int runEditor(int argc, char** argv) {
     const QtMessageHandler usual = qInstallMessageHandler(tellOfTheDisplay);
     QApplication application(count, line.toolkit.data());
     qInstallMessageHandler(usual);
-    return runEditor(line, application);
+    bool soundHangs = false;
+    const int code = runEditor(line, application, soundHangs);
+    if (soundHangs) {
+        // All is saved and closed. The thread may hold locks of the libraries that an ordinary end
+        // would take down.
+        std::fflush(nullptr);
+        std::_Exit(code);
+    }
+    return code;
 }
 
 }  // namespace quorvel::shell

@@ -125,6 +125,17 @@ TEST_F(Previews, LeavingTheEditorStopsSoundsFirstAndMoviesLast) {
     EXPECT_EQ(quits, 1);
 }
 
+TEST_F(Previews, WithNobodyThereASoundSystemThatHangsIsALine) {
+    startWithAProject();
+    preview->closes = false;
+    shell->endByRequest();
+    EXPECT_TRUE(waitUntil([this] { return quits == 1; }));
+    EXPECT_TRUE(boxes.shown().empty());
+    EXPECT_TRUE(complaints.contains(
+        QStringLiteral("Warning: Unable to Terminate DirectShow Engine Successfully.")))
+        << complaints.join(QLatin1Char('|')).toStdString();
+}
+
 TEST_F(Previews, ASoundSystemThatHangsIsToldAndTheEditorEndsAllTheSame) {
     startWithAProject();
     preview->closes = false;
