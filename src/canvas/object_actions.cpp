@@ -241,7 +241,8 @@ void ObjectActions::InsertObject(ObjectType type, int index) {
 void ObjectActions::RemoveObject(int index) {
     if (house_.boxes.show({.text = QStringLiteral("Are you sure you want to remove this object?"),
                            .title = QStringLiteral("Remove Object"),
-                           .buttons = Box::Buttons::yesNo}) != Answer::yes) {
+                           .buttons = Box::Buttons::yesNo,
+                           .destroys = true}) != Answer::yes) {
         return;
     }
     house_.scene.slot(index).SlotInt(store::kType.number) =
@@ -293,7 +294,8 @@ void ObjectActions::RestoreObjs_Click() {
                                                   "were when this scene was loaded?"),
                            .title = QStringLiteral("Restore Object Positions"),
                            .icon = Box::Icon::question,
-                           .buttons = Box::Buttons::yesNo}) == Answer::yes) {
+                           .buttons = Box::Buttons::yesNo,
+                           .destroys = true}) == Answer::yes) {
         house_.view.RestoreObjectPositions(2);
     }
 }

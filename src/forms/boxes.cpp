@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include "forms/long_words.h"
 
@@ -62,8 +63,26 @@ Answer MessageBoxes::show(const Box& box) {
     breakLongWords(window);
     if (box.buttons == Box::Buttons::yesNo) {
         window.setEscapeButton(QMessageBox::No);
+    } else if (box.buttons == Box::Buttons::ok) {
+        window.setEscapeButton(QMessageBox::Ok);
+        window.setDefaultButton(QMessageBox::Ok);
     }
-    switch (window.exec()) {
+    QPushButton* other = nullptr;
+    if (!box.other.isEmpty()) {
+        QString caption = box.other;
+        caption.replace(QLatin1Char('&'), QStringLiteral("&&"));
+        other = window.addButton(caption, QMessageBox::ActionRole);
+        other->setObjectName(QStringLiteral("Other"));
+    }
+    if (box.destroys) {
+        window.setDefaultButton(box.buttons == Box::Buttons::yesNo ? QMessageBox::No
+                                                                   : QMessageBox::Cancel);
+    }
+    const int chosen = window.exec();
+    if (other != nullptr && window.clickedButton() == other) {
+        return Answer::other;
+    }
+    switch (chosen) {
         case QMessageBox::Yes:
             return Answer::yes;
         case QMessageBox::No:

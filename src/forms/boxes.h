@@ -18,9 +18,14 @@ struct Box {
     QString title = kProgramTitle;
     Icon icon = Icon::none;
     Buttons buttons = Buttons::ok;
+    /// For a question: Yes or OK takes away something that an author has made. Enter then answers
+    /// No or Cancel.
+    bool destroys = false;
+    /// The caption of one more button, which answers `other`; empty for none.
+    QString other = {};
 };
 
-enum class Answer : std::uint8_t { ok, cancel, yes, no };
+enum class Answer : std::uint8_t { ok, cancel, yes, no, other };
 
 /// The answer of a box that is closed with Escape or its frame: `cancel` or `no`, or `ok` where
 /// that is the only button.

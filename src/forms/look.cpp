@@ -1,6 +1,7 @@
 #include "forms/look.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QPainter>
 #include <QPalette>
@@ -73,6 +74,20 @@ QPalette darkPalette() {
 class OutlinedStyle : public QProxyStyle {
   public:
     OutlinedStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+    /// Boxes and dialogs have the buttons of all other windows: without pictures, what goes on at
+    /// the left of what goes back.
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* result) const override {
+        switch (hint) {
+            case SH_DialogButtonBox_ButtonsHaveIcons:
+                return 0;
+            case SH_DialogButtonLayout:
+                return QDialogButtonBox::WinLayout;
+            default:
+                return QProxyStyle::styleHint(hint, option, widget, result);
+        }
+    }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {

@@ -189,7 +189,8 @@ void linkPropf::askAboutImage() {
                                 "file chosen.  Would you like to remove the image from this "
                                 "object's Image Property?"),
          .icon = forms::Box::Icon::question,
-         .buttons = forms::Box::Buttons::yesNo});
+         .buttons = forms::Box::Buttons::yesNo,
+         .destroys = true});
     if (answer == forms::Answer::yes) {
         image_->file->clear();
         image_->sample->setPicture(nullptr);

@@ -40,6 +40,39 @@ TEST(Boxes, EscapeAnswersForTheAuthor) {
               Answer::no);
 }
 
+TEST(Boxes, EnterDestroysNothing) {
+    const auto enter = [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); };
+    for (const bool destroys : {false, true}) {
+        SCOPED_TRACE(destroys);
+        EXPECT_EQ(
+            answerOf(
+                {.text = QStringLiteral("t"), .buttons = Box::Buttons::yesNo, .destroys = destroys},
+                enter),
+            destroys ? Answer::no : Answer::yes);
+        EXPECT_EQ(answerOf({.text = QStringLiteral("t"),
+                            .buttons = Box::Buttons::okCancel,
+                            .destroys = destroys},
+                           enter),
+                  destroys ? Answer::cancel : Answer::ok);
+    }
+}
+
+TEST(Boxes, OneMoreButtonIsNoneOfTheOthers) {
+    const Box box{.text = QStringLiteral("t"), .other = QStringLiteral("Use \"a&b.gif\"")};
+    const auto enter = [](QMessageBox& shown) { QTest::keyClick(&shown, Qt::Key_Return); };
+    EXPECT_EQ(answerOf(box, enter), Answer::ok) << "OK is the default";
+    EXPECT_EQ(answerOf(box, escape), Answer::ok);
+    EXPECT_EQ(answerOf(box, [](QMessageBox& shown) { shown.close(); }), Answer::ok);
+    EXPECT_EQ(answerOf(box,
+                       [](QMessageBox& shown) {
+                           auto& other = test::control<QPushButton>(shown, QStringLiteral("Other"));
+                           EXPECT_EQ(other.text(), QStringLiteral("Use \"a&&b.gif\""));
+                           EXPECT_FALSE(other.isDefault());
+                           other.click();
+                       }),
+              Answer::other);
+}
+
 TEST(Boxes, TheFrameAnswersAsEscapeDoes) {
     const auto close = [](QMessageBox& box) { box.close(); };
     EXPECT_EQ(answerOf({.text = QStringLiteral("t")}, close), Answer::ok);

@@ -83,6 +83,7 @@ TEST_F(HotSpotBehaviour, TheQuestionAboutTheImageComesWithEachReleaseOfTheMouse)
                                  "file chosen.  Would you like to remove the image from this "
                                  "object's Image Property?"));
         EXPECT_EQ(box.buttons, forms::Box::Buttons::yesNo);
+        EXPECT_TRUE(box.destroys);
         EXPECT_EQ(box.icon, forms::Box::Icon::question);
         EXPECT_EQ(hand.text("Text1"), QStringLiteral("door.gif"));
         EXPECT_NE(hand.picture("SampleGfx").picture(), nullptr);

@@ -212,6 +212,7 @@ TEST_F(InsertTest, RemovingTheLostObjectTakesTheAlertAway) {
     EXPECT_FALSE(button("ObjAlert").isVisible());
     EXPECT_EQ(boxes.texts(),
               QStringList{QStringLiteral("Are you sure you want to remove this object?")});
+    EXPECT_TRUE(boxes.shown().front().destroys);
 }
 
 }  // namespace

@@ -37,6 +37,7 @@ TEST_F(PositionsTest, RestoreAsksAndPutsEverythingBack) {
     EXPECT_EQ(box.title, QStringLiteral("Restore Object Positions"));
     EXPECT_EQ(box.icon, Box::Icon::question);
     EXPECT_EQ(box.buttons, Box::Buttons::yesNo);
+    EXPECT_TRUE(box.destroys) << "the places since then are lost";
 
     button("RestoreObjs").click();
     EXPECT_EQ(placeInSlot(3), QPoint(100, 120));

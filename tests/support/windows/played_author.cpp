@@ -15,12 +15,14 @@ Answer PlayedBoxes::show(const Box& box) {
     if (whileShown) {
         whileShown(box);
     }
-    if (box.buttons == Box::Buttons::ok) {
+    if (box.buttons == Box::Buttons::ok && (box.other.isEmpty() || answers_.empty())) {
         return Answer::ok;
     }
     if (answers_.empty()) {
         ADD_FAILURE() << "unexpected question: " << box.text.toStdString();
-        return box.buttons == Box::Buttons::yesNo ? Answer::no : Answer::cancel;
+        return box.buttons == Box::Buttons::yesNo ? Answer::no
+               : box.buttons == Box::Buttons::ok  ? Answer::ok
+                                                  : Answer::cancel;
     }
     const Answer answer = answers_.front();
     answers_.pop_front();
