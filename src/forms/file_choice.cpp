@@ -1,7 +1,9 @@
 #include "forms/file_choice.h"
 
+#include <algorithm>
 #include <system_error>
 
+#include "forms/file_remark.h"
 #include "resources/path_text.h"
 
 namespace quorvel::forms {
@@ -9,6 +11,13 @@ namespace {
 
 namespace fs = std::filesystem;
 using store::ResourceFolder;
+
+/// The patterns of a kind, by which it is the same in another order.
+QStringList sorted(const FileKind& kind) {
+    QStringList patterns = kind.patterns;
+    patterns.sort();
+    return patterns;
+}
 
 }  // namespace
 
@@ -33,7 +42,21 @@ void FileChoice::remember(ResourceFolder kind, const fs::path& folder) {
     last_[kind] = {inProject, folder};
 }
 
-std::optional<QString> FileChoice::choose(const FileField& field) {
+/// `current` is empty or the name of a file.
+int FileChoice::firstKind(const FileField& field, const QString& current) const {
+    const std::vector<FileKind> kinds = kindsOf(field.filter);
+    const auto isLast = [this](const FileKind& kind) { return sorted(kind) == lastKind_; };
+    const auto isCurrent = [&current](const FileKind& kind) { return kind.matches(current); };
+    const auto last = std::ranges::find_if(kinds, isLast);
+    const auto own = current.isEmpty() ? kinds.end() : std::ranges::find_if(kinds, isCurrent);
+    if (last != kinds.end() && (own == kinds.end() || isCurrent(*last))) {
+        return static_cast<int>(last - kinds.begin());
+    }
+    const bool isFirstOfAll = lastKind_.isEmpty();
+    return own == kinds.end() || isFirstOfAll ? 0 : static_cast<int>(own - kinds.begin());
+}
+
+std::optional<ChosenFile> FileChoice::choose(const FileField& field) {
     // A damaged record may hold anything; only a file of the folder can be the dialog's first
     // choice.
     const std::string current = field.current.toStdString();
@@ -44,23 +67,36 @@ std::optional<QString> FileChoice::choose(const FileField& field) {
     if (empty) {
         remember(field.folder, folder);
     }
-    const QString chosen =
+    const QString name = found   ? resources::pathText(found->filename())
+                         : empty ? QString()
+                                 : field.current;
+    const FileAnswer chosen =
         dialogs_.openFile({.title = field.title,
                            .filter = field.filter,
                            .folder = resources::pathText(folder) + QLatin1Char('/'),
-                           .fileName = found ? resources::pathText(found->filename())
-                                             : (empty ? QString() : field.current)});
-    if (chosen.isEmpty()) {
+                           .fileName = name,
+                           .kind = firstKind(field, name)});
+    if (chosen.path.isEmpty()) {
         return std::nullopt;
     }
-    const fs::path file = resources::pathOf(chosen);
+    const std::vector<FileKind> kinds = kindsOf(field.filter);
+    if (const auto kind = static_cast<std::size_t>(chosen.kind); kind < kinds.size()) {
+        lastKind_ = sorted(kinds[kind]);
+    }
+    return take(field, chosen.path);
+}
+
+std::optional<ChosenFile> FileChoice::take(const FileField& field, const QString& path) {
+    const fs::path file = resources::pathOf(path);
     remember(field.folder, file.parent_path());
-    const QString name = resources::pathText(file.filename());
-    if (!intake_.CheckFileName(name) ||
-        !intake_.CheckFileLoc(chosen, field.folderOf ? field.folderOf(name) : field.folder)) {
+    const QString own = resources::pathText(file.filename());
+    const ResourceFolder folder = field.folderOf ? field.folderOf(own) : field.folder;
+    const QString name = intake_.nameInField(own, folder);
+    if (name.isEmpty() || !intake_.CheckFileLoc(path, folder, name == own ? QString() : name)) {
         return std::nullopt;
     }
-    return name;
+    const auto taken = store::findResource(intake_.projectFolder(), folder, name.toStdString());
+    return ChosenFile{name, taken ? remarkOn(*taken, field.filter) : QString()};
 }
 
 }  // namespace quorvel::forms

@@ -58,20 +58,29 @@ struct FileField {
     std::function<store::ResourceFolder(const QString& name)> folderOf = {};
 };
 
+/// What the author has chosen.
+struct ChosenFile {
+    QString name;         ///< the bare name for the field
+    QString remark = {};  ///< what is odd about the file; it was taken all the same
+};
+
 /// Owned by the shell, for the life of the process: it knows where the author last was. Dialogs and
 /// gate must outlive it.
 ///
 /// A dialog begins where the file lies that its field holds. For an empty field the first dialog
 /// for a folder begins where the editor options say, each later one where the author last chose.
+///
+/// The first dialog of all shows the first kind of files of its filter, each later one the kind
+/// that was chosen last. Where its filter has no such kind, or the file in the field is of another,
+/// it shows the field's own.
 class FileChoice {
   public:
     FileChoice(FileDialogs& dialogs, resources::Intake& intake)
         : dialogs_(dialogs), intake_(intake) {}
 
-    /// Lets the author choose a file, checks its name and brings it into the project. The bare name
-    /// for the field, or nothing: then the field keeps what it holds, and the author either has
-    /// left the dialog or knows why.
-    std::optional<QString> choose(const FileField& field);
+    /// Lets the author choose a file, checks its name and brings it into the project. Nothing when
+    /// the field keeps what it holds: the author either has left the dialog or knows why.
+    std::optional<ChosenFile> choose(const FileField& field);
 
   private:
     /// The project's folder is no fixed place: it is another one for each project.
@@ -82,10 +91,13 @@ class FileChoice {
     [[nodiscard]] std::filesystem::path startingFolder(store::ResourceFolder kind,
                                                        bool empty) const;
     void remember(store::ResourceFolder kind, const std::filesystem::path& folder);
+    [[nodiscard]] int firstKind(const FileField& field, const QString& current) const;
+    std::optional<ChosenFile> take(const FileField& field, const QString& path);
 
     FileDialogs& dialogs_;
     resources::Intake& intake_;
     std::map<store::ResourceFolder, Place> last_;
+    QStringList lastKind_;  // the patterns of the kind that was chosen last, sorted
 };
 
 }  // namespace quorvel::forms

@@ -1,5 +1,7 @@
 #include "forms/file_dialogs.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -9,23 +11,45 @@
 
 namespace quorvel::forms {
 
-QString toolkitFilter(const QString& filter) {
-    const QStringList fields = filter.split(QLatin1Char('|'), Qt::SkipEmptyParts);
+namespace {
+
+/// The pairs of a filter as the toolkit wants them.
+QStringList toolkitRows(const QString& filter) {
     QStringList rows;
-    for (qsizetype i = 0; i + 1 < fields.size(); i += 2) {
-        QString patterns = fields[i + 1];
-        patterns.replace(QLatin1Char(';'), QLatin1Char(' '));
-        const QString caption = fields[i].section(QStringLiteral(" ("), 0, 0);
-        rows << QStringLiteral("%1 (%2)").arg(caption, patterns);
+    for (const FileKind& kind : kindsOf(filter)) {
+        rows << QStringLiteral("%1 (%2)").arg(kind.caption, kind.patterns.join(QLatin1Char(' ')));
     }
-    return rows.join(QStringLiteral(";;"));
+    return rows;
 }
 
-QString SystemFileDialogs::openFile(const FileQuestion& question) {
+}  // namespace
+
+bool FileKind::matches(const QString& name) const {
+    return QDir::match(patterns, name);
+}
+
+std::vector<FileKind> kindsOf(const QString& filter) {
+    const QStringList fields = filter.split(QLatin1Char('|'), Qt::SkipEmptyParts);
+    std::vector<FileKind> kinds;
+    for (qsizetype i = 0; i + 1 < fields.size(); i += 2) {
+        kinds.push_back({fields[i].section(QStringLiteral(" ("), 0, 0),
+                         fields[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts)});
+    }
+    return kinds;
+}
+
+QString toolkitFilter(const QString& filter) {
+    return toolkitRows(filter).join(QStringLiteral(";;"));
+}
+
+FileAnswer SystemFileDialogs::openFile(const FileQuestion& question) {
+    const QStringList rows = toolkitRows(question.filter);
+    QString row = rows.value(question.kind);
     const ReadableFolder folder(question.folder);
-    return folder.real(QFileDialog::getOpenFileName(QApplication::activeWindow(), question.title,
-                                                    QDir(folder.path()).filePath(question.fileName),
-                                                    toolkitFilter(question.filter)));
+    const QString path = folder.real(QFileDialog::getOpenFileName(
+        QApplication::activeWindow(), question.title,
+        QDir(folder.path()).filePath(question.fileName), rows.join(QStringLiteral(";;")), &row));
+    return {path, std::max(0, static_cast<int>(rows.indexOf(row)))};
 }
 
 QString SystemFileDialogs::chooseFolder(const FileQuestion& question) {

@@ -1,6 +1,7 @@
 #include "forms/form.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QBoxLayout>
 #include <QKeyEvent>
@@ -18,6 +19,44 @@ Form::Form(const QString& name, const QString& title, QWidget* parent) : QDialog
     setObjectName(name);
     setWindowTitle(title);
     setModal(true);
+}
+
+bool Form::event(QEvent* event) {
+    const bool isDone = QDialog::event(event);
+    if (event->type() == QEvent::LayoutRequest && isVisible()) {
+        growWithContent();
+    }
+    return isDone;
+}
+
+int Form::heightOfContent() const {
+    const QLayout* content = layout();
+    if (content == nullptr) {
+        return 0;
+    }
+    return content->hasHeightForWidth() ? content->totalHeightForWidth(width())
+                                        : content->totalMinimumSize().height();
+}
+
+/// Something came into the window, such as a line below a box. A window that the author has made
+/// too low stays as it is; one that the screen has no room for scrolls from then on.
+void Form::growWithContent() {
+    const int before = std::exchange(contentHeight_, heightOfContent());
+    if (contentHeight_ <= height() || height() < before || screen() == nullptr) {
+        return;
+    }
+    const QRect area = screen()->availableGeometry();
+    const QSize room = area.size() - kFrameRoom;
+    QSize wanted(width(), contentHeight_);
+    if (scroll_ == nullptr && wanted.height() > room.height()) {
+        letContentScroll();
+        wanted.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, scroll_);
+    }
+    resize(wanted.boundedTo(room));
+    const int below = frameGeometry().bottom() - area.bottom();
+    if (below > 0) {
+        move(x(), std::max(area.top(), y() - below));
+    }
 }
 
 void Form::showEvent(QShowEvent* event) {
@@ -41,6 +80,7 @@ void Form::showEvent(QShowEvent* event) {
                        content.height() + standingFoot_->sizeHint().height());
     }
     resize(wanted.boundedTo(room));
+    contentHeight_ = heightOfContent();
     const QSize size = frameGeometry().size();
     const bool large = area.width() > 800 && area.height() > 600;
     move(area.left() + (area.width() - size.width()) / 2,

@@ -40,6 +40,7 @@ class Form : public QDialog {
     [[nodiscard]] virtual bool isWorking() const { return false; }
 
   protected:
+    bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     /// Page Up and Page Down scroll.
     void keyPressEvent(QKeyEvent* event) override;
@@ -61,10 +62,13 @@ class Form : public QDialog {
 
   private:
     void letContentScroll();
+    [[nodiscard]] int heightOfContent() const;
+    void growWithContent();
 
     QLayout* foot_ = nullptr;
     QWidget* standingFoot_ = nullptr;
     QScrollArea* scroll_ = nullptr;
+    int contentHeight_ = 0;  // what the content needed when it was last looked at
 };
 
 /// The standard distance between a window's frame and its content, and between groups, in pixels.

@@ -17,6 +17,24 @@ using resources::IntakeNotice;
 using resources::NameFault;
 using What = IntakeNotice::What;
 
+QString failureOf(const IntakeNotice& notice) {
+    const std::string description(store::describe(notice.error));
+    return QStringLiteral("Error %1 (%2)\n%3")
+        .arg(QString::number(static_cast<int>(notice.error)), QString::fromStdString(description),
+             resources::pathText(notice.file));
+}
+
+Box warning(const QString& text) {
+    return {.text = text, .icon = Box::Icon::exclamation};
+}
+
+Box refusedSource(const IntakeNotice& notice, const QString& reason) {
+    return warning(QStringLiteral("Quorvel cannot use:\n\n%1\n\n%2")
+                       .arg(resources::pathText(notice.file), reason));
+}
+
+}  // namespace
+
 QString reasonOf(NameFault fault) {
     switch (fault) {
         case NameFault::empty:
@@ -40,24 +58,6 @@ QString reasonOf(NameFault fault) {
     }
     return {};
 }
-
-QString failureOf(const IntakeNotice& notice) {
-    const std::string description(store::describe(notice.error));
-    return QStringLiteral("Error %1 (%2)\n%3")
-        .arg(QString::number(static_cast<int>(notice.error)), QString::fromStdString(description),
-             resources::pathText(notice.file));
-}
-
-Box warning(const QString& text) {
-    return {.text = text, .icon = Box::Icon::exclamation};
-}
-
-Box refusedSource(const IntakeNotice& notice, const QString& reason) {
-    return warning(QStringLiteral("Quorvel cannot use:\n\n%1\n\n%2")
-                       .arg(resources::pathText(notice.file), reason));
-}
-
-}  // namespace
 
 Box boxOf(const IntakeNotice& notice) {
     switch (notice.what) {
@@ -142,7 +142,14 @@ bool IntakeBoxes::mayReplace(const QString& name) {
     return boxes_.show(
                {.text =
                     QStringLiteral("%1 already exists.\n\nDo you want to replace it?").arg(name),
-                .buttons = Box::Buttons::yesNo}) == Answer::yes;
+                .buttons = Box::Buttons::yesNo,
+                .destroys = true}) == Answer::yes;
+}
+
+bool IntakeBoxes::useShorter(const QString& name, const QString& shorter) {
+    Box box = boxOf({.what = What::nameTooLong, .name = name});
+    box.other = QStringLiteral("Use \"%1\"").arg(shorter);
+    return boxes_.show(box) == Answer::other;
 }
 
 resources::Pick IntakeBoxes::copyOrMove() {

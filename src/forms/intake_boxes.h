@@ -32,6 +32,7 @@ class IntakeBoxes : public resources::IntakeQuestions {
 
     void tell(const resources::IntakeNotice& notice) override;
     bool mayReplace(const QString& name) override;
+    bool useShorter(const QString& name, const QString& shorter) override;
     resources::Pick copyOrMove() override;
     /// A copy that takes longer than `patience` shows how far it is.
     void working(const QString& name, std::uintmax_t done, std::uintmax_t total) override;
@@ -44,6 +45,9 @@ class IntakeBoxes : public resources::IntakeQuestions {
     QElapsedTimer clock_;
     std::unique_ptr<CopyingFile> progress_;
 };
+
+/// What is wrong with a name, as a sentence.
+QString reasonOf(resources::NameFault fault);
 
 /// The box that tells `notice`.
 Box boxOf(const resources::IntakeNotice& notice);

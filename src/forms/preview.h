@@ -48,6 +48,10 @@ class Preview : public QObject {
     /// builds it anew.
     virtual bool CloseMediaEngine() = 0;
 
+    /// Why the preview that ended last was silent or cut short, a sentence; empty when it was not.
+    /// To be asked when an end is signalled.
+    [[nodiscard]] virtual QString lastError() const = 0;
+
   Q_SIGNALS:
     /// This machine lacks what sounds need; previews stay silent. `reason` is for the author.
     void unavailable(const QString& reason);

@@ -35,6 +35,7 @@ class ProjectPreview : public Preview {
     void SetMovieVolume(int volume) override;
     void StopMovie() override;
     bool CloseMediaEngine() override;
+    [[nodiscard]] QString lastError() const override { return engine_.lastError(); }
 
   private:
     /// The file of the project, or a path that names none.

@@ -3,8 +3,6 @@
 #include <algorithm>
 
 #include <QButtonGroup>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <QVBoxLayout>
@@ -148,35 +146,6 @@ QPushButton* makeSmallButton(const QString& name, const char* caption, const QSt
                       kPadding;
     button->setFixedWidth(width);
     return button;
-}
-
-FileBox::FileBox(const QString& name, const QString& spoken, QWidget* parent) : QLineEdit(parent) {
-    setObjectName(name);
-    setAccessibleName(spoken);
-    setReadOnly(true);
-    // The longest name that a record takes.
-    setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("mmmmmmmm.wav")) + 12);
-}
-
-void FileBox::setClearable(const QString& tip) {
-    clearable_ = true;
-    setToolTip(tip);
-}
-
-void FileBox::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (clearable_ && event->button() == Qt::LeftButton) {
-        Q_EMIT clearWanted();
-    }
-}
-
-void FileBox::keyPressEvent(QKeyEvent* event) {
-    if (clearable_ && event->matches(QKeySequence::Delete)) {
-        if (!text().isEmpty()) {
-            Q_EMIT clearWanted();
-        }
-        return;
-    }
-    QLineEdit::keyPressEvent(event);
 }
 
 OptionGroup::OptionGroup(const char* name, int firstIndex, const std::vector<const char*>& captions,

@@ -79,32 +79,6 @@ QPushButton* makeSmallButton(const QString& name, const char* caption, const QSt
 inline const QString kIdle = QStringLiteral(">");
 inline const QString kPlaying = QStringLiteral("[]");
 
-/// A box that the author does not type into: the name of a file.
-class FileBox : public QLineEdit {
-    Q_OBJECT
-  public:
-    FileBox(const QString& name, const QString& spoken, QWidget* parent);
-
-    /// The author can take the file away, and `tip` says how.
-    void setClearable(const QString& tip);
-
-  Q_SIGNALS:
-    /// The author takes the file away: by a double click, also where there is none, or by the key
-    /// Delete, which asks for nothing in an empty box. Comes from clearable boxes only.
-    void clearWanted();
-
-  protected:
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-
-  private:
-    bool clearable_ = false;
-};
-
-/// How the file of an ordinary row is taken away.
-inline const QString kClearTip =
-    QStringLiteral("Double-click or press Delete to take the file away");
-
 /// Options of which one is chosen, numbered from a first index.
 class OptionGroup : public QObject {
     Q_OBJECT

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "groups/controls.h"
+#include "groups/file_box.h"
 #include "groups/picture_box.h"
 #include "groups/sheet.h"
 

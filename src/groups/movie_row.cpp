@@ -19,8 +19,14 @@ MoviePlay::MoviePlay(Sheet& sheet, const QString& owner, QObject* parent)
     connect(&sheet, &Sheet::closing, this, &MoviePlay::stop);
     connect(&sheet.tools().preview, &forms::Preview::movieEnded, this,
             [this](const QString& ownerOfMovie) {
-                if (ownerOfMovie == owner_) {
-                    ended();
+                if (ownerOfMovie != owner_ || playing_ == nullptr) {
+                    return;
+                }
+                const QPushButton* button = playing_;
+                const QString reason = sheet_.tools().preview.lastError();
+                ended();
+                if (!reason.isEmpty()) {
+                    Q_EMIT failed(button, reason);
                 }
             });
 }
@@ -62,7 +68,8 @@ void MoviePlay::ended() {
 
 MovieRow::MovieRow(Sheet& sheet, MoviePlay& movies, const Names& names, QWidget* parent)
     : QObject(parent),
-      file(new FileBox(names.file, spokenOf(names, "file"), parent)),
+      file(new FileBox(names.file, spokenOf(names, "file"), {.filter = forms::filters::kMovies},
+                       parent)),
       sheet_(sheet),
       movies_(movies),
       label_(makeLabel(names.label, parent)),
@@ -83,9 +90,17 @@ MovieRow::MovieRow(Sheet& sheet, MoviePlay& movies, const Names& names, QWidget*
     connect(locate_, &QPushButton::clicked, this, &MovieRow::locate);
     connect(playButton_, &QPushButton::clicked, this, [this] {
         if (!file->text().isEmpty()) {
+            file->previewBegins();
             movies_.toggle(playButton_, file->text(), volume->value());
         }
     });
+    connect(&movies_, &MoviePlay::failed, this,
+            [this](const QPushButton* button, const QString& reason) {
+                if (button == playButton_) {
+                    file->previewEnded(reason);
+                }
+            });
+    connect(&sheet, &Sheet::closing, file, &FileBox::forgetNote);
     connect(volume, &Level::moved, this, [this](int value) {
         sheet_.touch();
         if (movies_.isPlaying(playButton_)) {
@@ -105,21 +120,16 @@ void MovieRow::followFile() {
 }
 
 void MovieRow::locate() {
-    const auto chosen =
-        sheet_.tools().files.choose({.filter = forms::filters::kMovies, .current = file->text()});
-    if (chosen) {
-        file->setText(*chosen);
+    if (file->locate(sheet_.tools().files)) {
         sheet_.touch();
         Q_EMIT fileChosen();
     }
 }
 
 void MovieRow::addTo(QGridLayout* grid, int row) {
-    int column = 0;
-    for (QWidget* widget : std::initializer_list<QWidget*>{
-             label_, file, locate_, playButton_, volumeLabel_, volume->slider(), volume->box()}) {
-        grid->addWidget(widget, row, column++);
-    }
+    addFileRow(grid, row,
+               {label_, file, locate_, playButton_, volumeLabel_, volume->slider(), volume->box()},
+               *file);
 }
 
 }  // namespace quorvel::groups

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "groups/controls.h"
+#include "groups/file_box.h"
 #include "groups/level.h"
 #include "groups/sheet.h"
 
@@ -22,6 +23,10 @@ class MoviePlay : public QObject {
     [[nodiscard]] bool isPlaying(const QPushButton* button) const { return playing_ == button; }
     /// Stops the movie, if one plays.
     void stop();
+
+  Q_SIGNALS:
+    /// The movie of `button` was not seen to its end, because of `reason`.
+    void failed(const QPushButton* button, const QString& reason);
 
   private:
     void ended();

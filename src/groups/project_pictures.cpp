@@ -32,6 +32,25 @@ forms::PicturePtr gfxPicture(const Tools& tools, const QString& name) {
     return picture->ok() ? picture : nullptr;
 }
 
+QString pictureProblem(const Tools& tools, const QString& name) {
+    using Problem = forms::Picture::Problem;
+    const auto file =
+        store::findResource(tools.project.folder(), store::ResourceFolder::gfx, name.toStdString());
+    switch (file ? tools.pictures.load(*file)->problem() : Problem::missing) {
+        case Problem::none:
+            break;
+        case Problem::missing:
+            return QStringLiteral("The file is not there.");
+        case Problem::refused:
+            return QStringLiteral("It may not be read.");
+        case Problem::tooLarge:
+            return QStringLiteral("It is too large.");
+        case Problem::damaged:
+            return QStringLiteral("It is damaged.");
+    }
+    return {};
+}
+
 forms::PicturePtr objectPicture(const Tools& tools, const QString& name) {
     if (name.isEmpty()) {
         return tools.pictures.stock(QStringLiteral("new-object"));

@@ -8,6 +8,9 @@ namespace quorvel::groups {
 /// A file of resource/gfx. Null where there is none, or none that can be shown.
 forms::PicturePtr gfxPicture(const Tools& tools, const QString& name);
 
+/// Why a file of resource/gfx cannot be shown, a sentence; empty when it can.
+QString pictureProblem(const Tools& tools, const QString& name);
+
 /// The picture of an object: its file, or the drawings that stand for an object without one and
 /// for a file that cannot be shown. Never null.
 forms::PicturePtr objectPicture(const Tools& tools, const QString& name);

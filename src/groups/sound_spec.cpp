@@ -41,7 +41,10 @@ void SoundSpec::build(const Names& names, QWidget* parent) {
                                             QString::fromLatin1(what));
     };
     label_ = makeLabel(names.label, parent);
-    file = new FileBox(element("SE", k_), spoken("file"), parent);
+    file = new FileBox(
+        element("SE", k_), spoken("file"),
+        {.filter = movies_ != nullptr ? forms::filters::kSoundsAndMovies : forms::filters::kSounds},
+        parent);
     locate_ = makeSmallButton(element("LSE", k_), "...", spoken("locate"), parent);
     locate_->setToolTip(QStringLiteral("Locate"));
     playButton_ = makeSmallButton(element("Playwav", k_), ">", spoken("play"), parent);
@@ -91,6 +94,8 @@ void SoundSpec::followAuthor() {
     connect(locate_, &QPushButton::clicked, this, &SoundSpec::locate);
     connect(playButton_, &QPushButton::clicked, this, &SoundSpec::Playwav_Click);
     connect(&sheet_, &Sheet::closing, this, &SoundSpec::silence);
+    connect(&sheet_, &Sheet::closing, file, &FileBox::forgetNote);
+    followPreview();
     connect(volume, &Level::moved, this, [this](int value) {
         sheet_.touch();
         if (isHeard() && isWav()) {
@@ -105,6 +110,24 @@ void SoundSpec::followAuthor() {
             sheet_.tools().preview.SetWavPan(k_, value);
         }
     });
+}
+
+void SoundSpec::followPreview() {
+    const forms::Preview& preview = sheet_.tools().preview;
+    connect(&preview, &forms::Preview::wavEnded, this, [this, &preview](int ended) {
+        if (ended == k_ && isStarted_) {
+            isStarted_ = false;
+            file->previewEnded(preview.lastError());
+        }
+    });
+    if (movies_ != nullptr) {
+        connect(movies_, &MoviePlay::failed, this,
+                [this](const QPushButton* button, const QString& reason) {
+                    if (button == playButton_) {
+                        file->previewEnded(reason);
+                    }
+                });
+    }
 }
 
 bool SoundSpec::isWav() const {
@@ -141,6 +164,7 @@ void SoundSpec::followFile() {
 /// What is heard of this sound stops.
 void SoundSpec::silence() {
     sheet_.tools().preview.StopWav(k_);
+    isStarted_ = false;
     if (movies_ != nullptr && movies_->isPlaying(playButton_)) {
         movies_->stop();
     }
@@ -148,11 +172,7 @@ void SoundSpec::silence() {
 }
 
 void SoundSpec::locate() {
-    const auto chosen = sheet_.tools().files.choose(
-        {.filter = movies_ != nullptr ? forms::filters::kSoundsAndMovies : forms::filters::kSounds,
-         .current = file->text()});
-    if (chosen) {
-        file->setText(*chosen);
+    if (file->locate(sheet_.tools().files)) {
         sheet_.touch();
         Q_EMIT fileChosen();
     }
@@ -165,13 +185,14 @@ void SoundSpec::Playwav_Click() {
         return;
     }
     if (movies_ != nullptr && !isWav()) {
+        file->previewBegins();
         movies_->toggle(playButton_, name, volume->value());
         return;
     }
     if (play_ == Play::once) {
         preview.StopAllWavs();
         Q_EMIT sheet_.soundsStopped();
-        preview.PlayWav(name, volume->value(), pan->value(), k_);
+        start(false);
         return;
     }
     if (playButton_->text() == kPlaying) {
@@ -182,8 +203,14 @@ void SoundSpec::Playwav_Click() {
         preview.StopAllWavs();
         Q_EMIT sheet_.soundsStopped();
     }
-    preview.PlayWav(name, volume->value(), pan->value(), k_, true);
+    start(true);
     playButton_->setText(kPlaying);
+}
+
+void SoundSpec::start(bool loop) {
+    file->previewBegins();
+    isStarted_ = true;
+    sheet_.tools().preview.PlayWav(file->text(), volume->value(), pan->value(), k_, loop);
 }
 
 void SoundSpec::fill(QVBoxLayout* column) {
@@ -198,6 +225,7 @@ void SoundSpec::fill(QVBoxLayout* column) {
         first->addWidget(channel);
     }
     column->addLayout(first);
+    column->addWidget(file->note);
     auto* second = new QHBoxLayout;
     second->addWidget(volumeLabel_);
     second->addWidget(volume->slider(), 1);
@@ -213,13 +241,11 @@ void SoundSpec::fill(QVBoxLayout* column) {
 }
 
 void SoundSpec::addTo(QGridLayout* grid, int row) {
-    int column = 0;
-    for (QWidget* widget : std::initializer_list<QWidget*>{
-             label_, file, locate_, playButton_, volumeLabel_, volume->slider(), volume->box(),
-             panLabel_, pan->slider(), pan->box(), panButtons_[0], panButtons_[1],
-             panButtons_[2]}) {
-        grid->addWidget(widget, row, column++);
-    }
+    addFileRow(
+        grid, row,
+        {label_, file, locate_, playButton_, volumeLabel_, volume->slider(), volume->box(),
+         panLabel_, pan->slider(), pan->box(), panButtons_[0], panButtons_[1], panButtons_[2]},
+        *file);
 }
 
 }  // namespace quorvel::groups

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "groups/controls.h"
+#include "groups/file_box.h"
 #include "groups/level.h"
 #include "groups/sheet.h"
 
@@ -62,6 +63,8 @@ class SoundSpec : public QObject {
     /// In two lines.
     void fill(QVBoxLayout* column);
     void followAuthor();
+    void followPreview();
+    void start(bool loop);
     QPushButton* panButton(const char* name, const char* caption, const char* spoken, int pan);
     void locate();
     void followFile();
@@ -75,6 +78,7 @@ class SoundSpec : public QObject {
     Play play_;
     bool alone_;
     MoviePlay* movies_;
+    bool isStarted_ = false;  // its WAV was started and has not been heard of since
     QPushButton* locate_ = nullptr;
     QPushButton* playButton_ = nullptr;
     std::vector<QPushButton*> panButtons_;

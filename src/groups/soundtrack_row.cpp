@@ -6,11 +6,13 @@ namespace quorvel::groups {
 
 SoundtrackRow::SoundtrackRow(Sheet& sheet, const Names& names, QWidget* parent)
     : QObject(parent),
-      file(new FileBox(name(names.file), QStringLiteral("Soundtrack, file"), parent)),
+      file(new FileBox(name(names.file), QStringLiteral("Soundtrack, file"),
+                       {.filter = forms::filters::kSoundtracks}, parent)),
       sheet_(sheet),
       label_(makeLabel(names.label, parent)),
       volumeLabel_(makeLabel("Vol >", parent)) {
     sheet.expectSound();
+    file->setOrder(kStop);
     // In the order in which the Tab key visits them.
     locate_ =
         makeSmallButton(name(names.locate), "...", QStringLiteral("Soundtrack, locate"), parent);
@@ -40,6 +42,7 @@ SoundtrackRow::SoundtrackRow(Sheet& sheet, const Names& names, QWidget* parent)
         }
     });
     connect(&sheet, &Sheet::closing, this, &SoundtrackRow::stop);
+    connect(&sheet, &Sheet::closing, file, &FileBox::forgetNote);
     connect(volume, &Level::moved, this, [this](int value) {
         sheet_.touch();
         if (playButton_->text() != kPlaying) {
@@ -55,16 +58,22 @@ SoundtrackRow::SoundtrackRow(Sheet& sheet, const Names& names, QWidget* parent)
     });
     const forms::Preview& preview = sheet.tools().preview;
     const auto idle = [this] { playButton_->setText(kIdle); };
+    const auto ended = [this, idle, &preview] {
+        if (playButton_->text() == kPlaying) {
+            file->previewEnded(preview.lastError());
+        }
+        idle();
+    };
     connect(&sheet, &Sheet::soundsStopped, this, [this, idle] {
         if (kind() == Kind::wav) {
             idle();
         }
     });
-    connect(&preview, &forms::Preview::mp3Ended, this, idle);
-    connect(&preview, &forms::Preview::midiEnded, this, idle);
-    connect(&preview, &forms::Preview::wavEnded, this, [idle](int channel) {
+    connect(&preview, &forms::Preview::mp3Ended, this, ended);
+    connect(&preview, &forms::Preview::midiEnded, this, ended);
+    connect(&preview, &forms::Preview::wavEnded, this, [ended](int channel) {
         if (channel == kChannel) {
-            idle();
+            ended();
         }
     });
 }
@@ -94,11 +103,7 @@ void SoundtrackRow::cycle() {
 }
 
 void SoundtrackRow::locate() {
-    const auto chosen =
-        sheet_.tools().files.choose({.filter = forms::filters::kSoundtracks,
-                                     .current = file->text() == kStop ? QString() : file->text()});
-    if (chosen) {
-        file->setText(*chosen);
+    if (file->locate(sheet_.tools().files)) {
         sheet_.touch();
         Q_EMIT changed(true);
     }
@@ -106,6 +111,7 @@ void SoundtrackRow::locate() {
 
 void SoundtrackRow::play() {
     forms::Preview& preview = sheet_.tools().preview;
+    file->previewBegins();
     switch (kind()) {
         case Kind::mp3:
             preview.PlayMp3(file->text(), volume->value(), 0);
@@ -117,6 +123,7 @@ void SoundtrackRow::play() {
             preview.PlayMidi(file->text(), volume->value());
             break;
         case Kind::none:
+            file->previewEnded(QStringLiteral("It does not know this ending."));
             return;
     }
     playButton_->setText(kPlaying);
@@ -131,11 +138,9 @@ void SoundtrackRow::stop() {
 }
 
 void SoundtrackRow::addTo(QGridLayout* grid, int row) {
-    int column = 0;
-    for (QWidget* widget : std::initializer_list<QWidget*>{
-             label_, file, locate_, playButton_, volumeLabel_, volume->slider(), volume->box()}) {
-        grid->addWidget(widget, row, column++);
-    }
+    addFileRow(grid, row,
+               {label_, file, locate_, playButton_, volumeLabel_, volume->slider(), volume->box()},
+               *file);
 }
 
 }  // namespace quorvel::groups

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "groups/controls.h"
+#include "groups/file_box.h"
 #include "groups/level.h"
 #include "groups/sheet.h"
 

@@ -27,7 +27,38 @@ bool isDeviceName(const QString& name) {
            kDigits.contains(stem.back());
 }
 
+/// `text` without what no name can hold.
+QString cleaned(const QString& text) {
+    QString result;
+    for (const QChar c : text) {
+        const bool fits =
+            !isReserved(c) && !c.isSurrogate() && store::fitsCodePage(QString(c).toStdString());
+        result += fits ? c : QLatin1Char('_');
+    }
+    return result;
+}
+
 }  // namespace
+
+QString shorterName(const QString& name, const std::function<bool(const QString&)>& isFree) {
+    constexpr qsizetype kLongestStem = 11;
+    constexpr int kLastNumber = 999;
+    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
+    const QString ending = dot < 0 ? QString() : cleaned(name.mid(dot)).trimmed();
+    const QString stem = cleaned(dot < 0 ? name : name.left(dot)).trimmed();
+    const qsizetype room = std::min(kLongestStem, kLongestFileName - ending.size());
+    for (int number = 1; number <= kLastNumber; ++number) {
+        const QString mark = number == 1 ? QString() : QString::number(number);
+        if (room - mark.size() < 1) {
+            break;
+        }
+        const QString shorter = stem.left(room - mark.size()).trimmed() + mark + ending;
+        if (nameFault(shorter) == NameFault::none && isFree(shorter)) {
+            return shorter;
+        }
+    }
+    return {};
+}
 
 NameFault nameFault(const QString& name) {
     if (name.isEmpty()) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include <QString>
 
@@ -21,6 +22,11 @@ enum class NameFault : std::uint8_t {
     dotAtTheEnd,
     deviceName,  ///< CON, NUL, COM1 and their like, with or without an ending
 };
+
+/// A name that a field can hold, made of one that is too long: the same ending, and of the rest the
+/// beginning, at most eleven characters, what cannot stand in a name being "_". Where that name is
+/// not free, its end is a number from 2 on. Empty when there is no such name.
+QString shorterName(const QString& name, const std::function<bool(const QString&)>& isFree);
 
 /// The first fault of the bare name `name`; its length is not looked at.
 NameFault nameFault(const QString& name);

@@ -77,6 +77,23 @@ bool Intake::CheckFileName(const QString& name) {
     return checkFitness(name);
 }
 
+QString Intake::nameInField(const QString& name, ResourceFolder kind) {
+    if (name.size() <= kLongestFileName) {
+        return CheckFileName(name) ? name : QString();
+    }
+    const fs::path folder = targetFolder(kind);
+    const QString shorter = shorterName(name, [&folder](const QString& one) {
+        std::error_code error;
+        const fs::path path = store::resolvePath(folder, one.toStdString());
+        return !fs::exists(fs::symlink_status(path, error));
+    });
+    if (shorter.isEmpty()) {
+        CheckFileName(name);
+        return {};
+    }
+    return questions_.useShorter(name, shorter) ? shorter : QString();
+}
+
 bool Intake::checkFitness(const QString& name) {
     const NameFault fault = nameFault(name);
     if (fault != NameFault::none) {
@@ -108,16 +125,18 @@ bool Intake::checkSource(const fs::path& source) {
     }
 }
 
-bool Intake::CheckFileLoc(const QString& fullPath, ResourceFolder kind) {
+bool Intake::CheckFileLoc(const QString& fullPath, ResourceFolder kind, const QString& as) {
     const fs::path source = pathOf(fullPath);
-    const QString name = pathText(source.filename());
+    const QString own = pathText(source.filename());
+    const QString name = as.isEmpty() ? own : as;
     if (!checkFitness(name) || !checkSource(source)) {
         return false;
     }
     const fs::path from = source.has_parent_path() ? source.parent_path() : fs::path(".");
     const fs::path to = targetFolder(kind);
     // Before all else: a file that is copied onto itself and then deleted would be lost.
-    if (samePlace(from, to)) {
+    const bool isThere = samePlace(from, to);
+    if (isThere && name == own) {
         if (rules_().DebugMessages) {
             questions_.tell({.what = What::correctFolder, .folder = kind});
         }
@@ -133,7 +152,13 @@ bool Intake::CheckFileLoc(const QString& fullPath, ResourceFolder kind) {
         questions_.tell({.what = What::targetIsFolder, .name = name, .file = way.target});
         return false;
     }
-    return isIncoming(from) ? move(way) : takeByRules(way);
+    if (isThere) {
+        return takeAsChosen(way, Pick::copy);
+    }
+    if (!isIncoming(from)) {
+        return takeByRules(way);
+    }
+    return name == own ? move(way) : takeAsChosen(way, Pick::move);
 }
 
 bool Intake::takeByRules(const Way& way) {

@@ -72,6 +72,8 @@ class IntakeQuestions {
     virtual void tell(const IntakeNotice& notice) = 0;
     /// May the file `name`, which exists, be replaced?
     virtual bool mayReplace(const QString& name) = 0;
+    /// `name` is too long. Shall the file be taken in under the name `shorter`, which is free?
+    virtual bool useShorter(const QString& name, const QString& shorter) = 0;
     virtual Pick copyOrMove() = 0;
     /// Called while `name` is copied, with bytes done and in all, and once more before the source
     /// of a move is deleted. Lets pending events run.
@@ -88,11 +90,19 @@ class Intake {
     /// True when a field can hold the bare name `name`. What is wrong with it is told.
     bool CheckFileName(const QString& name);
 
+    /// The name under which a field of the folder `kind` can hold the file `name`: its own, or
+    /// where that is too long a shorter one that the author agrees to. Empty when there is none;
+    /// the author knows why.
+    QString nameInField(const QString& name, store::ResourceFolder kind);
+
     /// Brings the file `fullPath` into the project's folder `kind`, where it does not lie there
     /// already: out of Incoming it is moved without a question, out of any other folder it goes as
     /// the editor options say. True when the bare name may be used; otherwise the author has been
     /// told or has refused, and all files are as before.
-    bool CheckFileLoc(const QString& fullPath, store::ResourceFolder kind);
+    ///
+    /// `as` gives it another name there, under which nothing is replaced without a question; a file
+    /// that lies there already is copied to it.
+    bool CheckFileLoc(const QString& fullPath, store::ResourceFolder kind, const QString& as = {});
 
     /// True when nothing stands at `target` in any letter case, or when the author lets it go.
     bool CheckReplace(const std::filesystem::path& target);

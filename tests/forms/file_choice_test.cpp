@@ -31,7 +31,9 @@ class FileChoosing : public testing::Test {
     /// The author chooses `file`; what the field gets.
     std::optional<QString> choose(const fs::path& file, const FileField& field) {
         dialogs.choice = resources::pathText(file);
-        return choice.choose(field);
+        const auto chosen = choice.choose(field);
+        remark = chosen ? chosen->remark : QString();
+        return chosen ? std::optional(chosen->name) : std::nullopt;
     }
     std::optional<QString> chooseImage(const fs::path& file, const QString& current = {}) {
         return choose(file, {.title = QStringLiteral("Locate an image for this object"),
@@ -44,6 +46,7 @@ class FileChoosing : public testing::Test {
     }
     [[nodiscard]] QString startedIn() const { return dialogs.asked.back().folder; }
 
+    QString remark;  ///< on the file that was chosen last
     test::TempFolder folder;
     fs::path gfx = folder.makeFolder("game/resource/gfx");
     fs::path mmedia = folder.makeFolder("game/resource/mmedia");
@@ -160,6 +163,7 @@ TEST_F(FileChoosing, FifteenCharactersAreTheMost) {
     writeBytes(pictures / "elevenchars.gif", "x");
     writeBytes(incoming / "twelve_chars.gif", "x");
     EXPECT_EQ(chooseImage(pictures / "elevenchars.gif"), QStringLiteral("elevenchars.gif"));
+    boxes.answer(Answer::ok);
     EXPECT_EQ(chooseImage(incoming / "twelve_chars.gif"), std::nullopt);
     EXPECT_EQ(boxes.texts(),
               QStringList{QStringLiteral(
@@ -168,6 +172,80 @@ TEST_F(FileChoosing, FifteenCharactersAreTheMost) {
                   "and try again.")});
     EXPECT_TRUE(fs::exists(incoming / "twelve_chars.gif"))
         << "the name is looked at before the file is taken";
+}
+
+TEST_F(FileChoosing, AFileWithALongNameIsTakenUnderAShorterOne) {
+    writeBytes(pictures / "twelve_chars.gif", "GIF89a twelve");
+    boxes.answer(Answer::other);
+    EXPECT_EQ(chooseImage(pictures / "twelve_chars.gif"), QStringLiteral("twelve_char.gif"));
+    EXPECT_EQ(boxes.shown().back().other, QStringLiteral("Use \"twelve_char.gif\""));
+    EXPECT_EQ(boxes.shown().back().buttons, Box::Buttons::ok);
+    EXPECT_EQ(readBytes(gfx / "twelve_char.gif"), "GIF89a twelve");
+    EXPECT_TRUE(fs::exists(pictures / "twelve_chars.gif")) << "copied";
+    EXPECT_FALSE(fs::exists(gfx / "twelve_chars.gif"));
+    EXPECT_EQ(remark, QString());
+
+    writeBytes(incoming / "TWELVE_CHARS.gif", "GIF89a other");
+    boxes.answer(Answer::other);
+    EXPECT_EQ(chooseImage(incoming / "TWELVE_CHARS.gif"), QStringLiteral("TWELVE_CHA2.gif"));
+    EXPECT_EQ(readBytes(gfx / "TWELVE_CHA2.gif"), "GIF89a other");
+    EXPECT_EQ(readBytes(gfx / "twelve_char.gif"), "GIF89a twelve") << "nothing is replaced";
+    EXPECT_FALSE(fs::exists(incoming / "TWELVE_CHARS.gif")) << "moved out of Incoming";
+}
+
+TEST_F(FileChoosing, TheFirstDialogShowsTheFirstKindLaterOnesTheOneChosenLast) {
+    writeBytes(gfx / "coin.gif", "GIF89a");
+    const auto shown = [this] { return dialogs.asked.back().kind; };
+    dialogs.kind = 2;
+    chooseImage({});
+    EXPECT_EQ(shown(), 0) << "GIF";
+    chooseImage({});
+    EXPECT_EQ(shown(), 0) << "a dialog that was left has chosen nothing";
+    chooseImage(gfx / "coin.gif");
+    EXPECT_EQ(shown(), 0);
+    chooseImage({});
+    EXPECT_EQ(shown(), 2) << "bitmaps";
+    chooseSound({});
+    EXPECT_EQ(shown(), 0) << "there are no bitmaps among sounds";
+    choose({}, {.filter = filters::kBackgrounds, .folder = ResourceFolder::gfx});
+    EXPECT_EQ(shown(), 0) << "bitmaps stand first here";
+    dialogs.kind = 3;
+    chooseImage(gfx / "coin.gif");
+    choose({}, {.filter = filters::kBackgrounds, .folder = ResourceFolder::gfx});
+    EXPECT_EQ(shown(), 3) << "all of them, though in another order";
+}
+
+TEST_F(FileChoosing, AFieldWithAFileOfAnotherKindShowsItsOwn) {
+    writeBytes(gfx / "coin.gif", "GIF89a");
+    const auto shown = [this] { return dialogs.asked.back().kind; };
+    chooseImage({}, QStringLiteral("door.bmp"));
+    EXPECT_EQ(shown(), 0) << "the first of all";
+    dialogs.kind = 1;
+    chooseImage(gfx / "coin.gif");
+    chooseImage({}, QStringLiteral("Door.BMP"));
+    EXPECT_EQ(shown(), 2);
+    chooseImage({}, QStringLiteral("door.jpg"));
+    EXPECT_EQ(shown(), 1) << "the one that was chosen last";
+    chooseImage({}, QStringLiteral("door.tif"));
+    EXPECT_EQ(shown(), 1) << "no kind is its own";
+    dialogs.kind = 3;
+    chooseImage(gfx / "coin.gif");
+    chooseImage({}, QStringLiteral("door.bmp"));
+    EXPECT_EQ(shown(), 3) << "it is among all";
+}
+
+TEST_F(FileChoosing, WhatIsOddAboutAFileIsSaidAndTheFileTaken) {
+    writeBytes(pictures / "coin.tif", "II*");
+    EXPECT_EQ(chooseImage(pictures / "coin.tif"), QStringLiteral("coin.tif"));
+    EXPECT_TRUE(fs::exists(gfx / "coin.tif"));
+    EXPECT_EQ(remark,
+              QStringLiteral("\"coin.tif\" was taken, but a player may not know its ending. "
+                             " Every player knows .gif, .jpg and .bmp."));
+    writeBytes(pictures / "coin.bmp", "GIF89a");
+    EXPECT_EQ(chooseImage(pictures / "coin.bmp"), QStringLiteral("coin.bmp"));
+    EXPECT_EQ(remark, QStringLiteral("\"coin.bmp\" was taken, but it holds a GIF picture and not a "
+                                     "bitmap.  Every player knows .gif, .jpg and .bmp."));
+    EXPECT_TRUE(boxes.shown().empty());
 }
 
 TEST_F(FileChoosing, ARefusalLeavesTheField) {

@@ -42,10 +42,12 @@ TEST(FileDialog, ReturnsTheFileThatWasChosen) {
     withWindow(
         QStringLiteral("QFileDialog"),
         [&] {
-            chosen = dialogs.openFile({.title = QStringLiteral("Choose a project to open"),
-                                       .filter = QStringLiteral("Quorvel Projects (*.qvl)|*.qvl|"),
-                                       .folder = resources::pathText(folder.path()),
-                                       .fileName = {}});
+            chosen = dialogs
+                         .openFile({.title = QStringLiteral("Choose a project to open"),
+                                    .filter = QStringLiteral("Quorvel Projects (*.qvl)|*.qvl|"),
+                                    .folder = resources::pathText(folder.path()),
+                                    .fileName = {}})
+                         .path;
         },
         [&](QWidget& window) {
             auto& dialog = dynamic_cast<QFileDialog&>(window);
@@ -58,13 +60,42 @@ TEST(FileDialog, ReturnsTheFileThatWasChosen) {
     EXPECT_EQ(chosen, path);
 }
 
+TEST(FileDialog, ShowsTheKindThatItIsGivenAndTellsTheOneThatWasChosen) {
+    const TempFolder folder;
+    writeBytes(folder / "coin.gif", "x");
+    forms::SystemFileDialogs dialogs;
+    forms::FileAnswer answer;
+    withWindow(
+        QStringLiteral("QFileDialog"),
+        [&] {
+            answer = dialogs.openFile(
+                {.title = {},
+                 .filter = QStringLiteral("Bitmap Files (*.bmp)|*.bmp|GIF Files (*.gif)|*.gif|"
+                                          "All supported Files (*.bmp;*.gif)|*.bmp;*.gif|"),
+                 .folder = resources::pathText(folder.path()),
+                 .fileName = {},
+                 .kind = 1});
+        },
+        [&](QWidget& window) {
+            auto& dialog = dynamic_cast<QFileDialog&>(window);
+            EXPECT_EQ(dialog.selectedNameFilter(), QStringLiteral("GIF Files (*.gif)"));
+            dialog.selectNameFilter(dialog.nameFilters().at(2));
+            control<QLineEdit>(dialog, QStringLiteral("fileNameEdit"))
+                .setText(QStringLiteral("coin.gif"));
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+    EXPECT_EQ(answer.path, resources::pathText(folder / "coin.gif"));
+    EXPECT_EQ(answer.kind, 2);
+}
+
 TEST(FileDialog, ReturnsNothingWhenItIsLeft) {
     forms::SystemFileDialogs dialogs;
     QString chosen = QStringLiteral("untouched");
     withWindow(
         QStringLiteral("QFileDialog"),
         [&] {
-            chosen = dialogs.openFile({.title = {}, .filter = {}, .folder = {}, .fileName = {}});
+            chosen =
+                dialogs.openFile({.title = {}, .filter = {}, .folder = {}, .fileName = {}}).path;
         },
         [](QWidget& window) { dynamic_cast<QFileDialog&>(window).reject(); });
     EXPECT_EQ(chosen, QString());

@@ -104,6 +104,20 @@ TEST_F(IntakeBoxesTest, TheQuestionOfReplacingIsAnsweredByYesAlone) {
     const Box& box = boxes.shown().front();
     EXPECT_EQ(box.text, QStringLiteral("coin.gif already exists.\n\nDo you want to replace it?"));
     EXPECT_EQ(box.buttons, Box::Buttons::yesNo);
+    EXPECT_TRUE(box.destroys);
+}
+
+TEST_F(IntakeBoxesTest, TheBoxOfLongNamesOffersAShorterOne) {
+    const QString longName = QStringLiteral("twelve_chars.gif");
+    const QString shorter = QStringLiteral("twelve_char.gif");
+    boxes.answer(Answer::ok).answer(Answer::other);
+    EXPECT_FALSE(questions.useShorter(longName, shorter));
+    EXPECT_TRUE(questions.useShorter(longName, shorter));
+    const Box& box = boxes.shown().front();
+    EXPECT_EQ(box.text, boxOf({.what = What::nameTooLong, .name = longName}).text);
+    EXPECT_EQ(box.title, QStringLiteral("Quorvel"));
+    EXPECT_EQ(box.buttons, Box::Buttons::ok);
+    EXPECT_EQ(box.other, QStringLiteral("Use \"twelve_char.gif\""));
 }
 
 class PickCMTest : public IntakeBoxesTest {

@@ -16,7 +16,7 @@ class ScenePreviews : public EditorAuthor {
                  .mmedia("a.wav", "a")
                  .mmedia("b.wav", "b")
                  .mmedia("in.avi", "i")
-                 .mmedia("out.mpg", "o")
+                 .mmedia("out.mpg", std::string("\0\0\1\xBA", 4))
                  .mmedia("waltz.mp3", "w")
                  .mmedia("JIG.MID", "j")
                  .mmedia("noise.ogg", "n"));

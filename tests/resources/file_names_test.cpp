@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QStringList>
+
 namespace quorvel::resources {
 namespace {
 
@@ -70,6 +72,52 @@ TEST(FileNames, DeviceNamesAreRefusedInAnyCaseAndWithAnyEnding) {
     }
     EXPECT_EQ(faultOf("conin$"), NameFault::deviceName);
     EXPECT_EQ(faultOf("my.con"), NameFault::none);
+}
+
+QString shorter(const char* name, const QStringList& taken = {}) {
+    return resources::shorterName(QString::fromUtf8(name),
+                                  [&](const QString& one) { return !taken.contains(one); });
+}
+
+TEST(ShorterName, KeepsTheBeginningAndTheEnding) {
+    EXPECT_EQ(shorter("twelve_chars.gif"), QStringLiteral("twelve_char.gif"));
+    EXPECT_EQ(shorter("a.very.long.name.of.dots.gif"), QStringLiteral("a.very.long.gif"));
+    EXPECT_EQ(shorter("beautiful_sunset.jpeg"), QStringLiteral("beautiful_.jpeg"));
+    EXPECT_EQ(shorter("without_an_ending"), QStringLiteral("without_an_"));
+    EXPECT_EQ(shorter("the old   house.gif"), QStringLiteral("the old   h.gif"));
+    EXPECT_EQ(shorter("the stones of it.gif"), QStringLiteral("the stones.gif")) << "no blank";
+}
+
+TEST(ShorterName, AvoidsWhatIsTaken) {
+    EXPECT_EQ(shorter("twelve_chars.gif", {QStringLiteral("twelve_char.gif")}),
+              QStringLiteral("twelve_cha2.gif"));
+    QStringList taken{QStringLiteral("twelve_char.gif")};
+    for (int n = 2; n < 12; ++n) {
+        taken << QStringLiteral("twelve_char").left(n < 10 ? 10 : 9) + QString::number(n) +
+                     QStringLiteral(".gif");
+    }
+    EXPECT_EQ(shorter("twelve_chars.gif", taken), QStringLiteral("twelve_ch12.gif"));
+}
+
+TEST(ShorterName, IsOneThatAFieldCanHold) {
+    EXPECT_EQ(shorter("what? is : this.gif"), QStringLiteral("what_ is _.gif"));
+    EXPECT_EQ(shorter("\xCE\xB1\xCE\xB2 in greek letters.gif"), QStringLiteral("__ in greek.gif"));
+    EXPECT_EQ(shorter("\xF0\x9F\x98\x80 a smile of joy.gif"), QStringLiteral("__ a smile.gif"));
+    for (const char* name : {"   blanks before it.gif", "aux                 .gif",
+                             "x.......................", "...................gif"}) {
+        const QString made = shorter(name);
+        EXPECT_LE(made.size(), 15) << name;
+        EXPECT_TRUE(made.isEmpty() || resources::nameFault(made) == resources::NameFault::none)
+            << name;
+    }
+}
+
+TEST(ShorterName, MayNotExist) {
+    EXPECT_EQ(shorter("a.fifteen_letters"), QString()) << "there is no room beside the ending";
+    EXPECT_EQ(shorter("con.and.more.and.more.gif"), QString()) << "a device with any ending";
+    EXPECT_EQ(resources::shorterName(QStringLiteral("twelve_chars.gif"),
+                                     [](const QString&) { return false; }),
+              QString());
 }
 
 }  // namespace

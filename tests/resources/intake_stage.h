@@ -21,6 +21,10 @@ class PlayedQuestions : public resources::IntakeQuestions {
         asked.push_back("replace " + name.toStdString());
         return replace;
     }
+    bool useShorter(const QString& name, const QString& shorter) override {
+        asked.push_back("use " + shorter.toStdString() + " for " + name.toStdString());
+        return takesShorter;
+    }
     resources::Pick copyOrMove() override {
         asked.emplace_back("copy or move");
         return pick;
@@ -34,6 +38,7 @@ class PlayedQuestions : public resources::IntakeQuestions {
     }
 
     bool replace = false;
+    bool takesShorter = false;
     resources::Pick pick = resources::Pick::none;
     std::function<void()> whileWorking;
     std::vector<resources::IntakeNotice> told;

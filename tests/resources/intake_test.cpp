@@ -262,6 +262,68 @@ TEST_F(CheckFileLoc, TheOtherResourceFolderIsAWrongFolder) {
     EXPECT_EQ(readBytes(mmedia / "intro.avi"), "film");
 }
 
+TEST_F(CheckFileLoc, AnotherNameKeepsTheRulesOfTheFolders) {
+    const QString as = QStringLiteral("new.gif");
+    const auto take = [&](const fs::path& path) {
+        return intake.CheckFileLoc(resources::pathText(path), store::ResourceFolder::gfx, as);
+    };
+    rules.WrongFolder = 2;
+    writeBytes(pictures / "a_very_long_name.gif", "moved");
+    EXPECT_TRUE(take(pictures / "a_very_long_name.gif"));
+    EXPECT_EQ(readBytes(gfx / "new.gif"), "moved");
+    EXPECT_FALSE(fs::exists(pictures / "a_very_long_name.gif"));
+
+    fs::remove(gfx / "new.gif");
+    writeBytes(incoming / "a_very_long_name.gif", "incoming");
+    EXPECT_TRUE(take(incoming / "a_very_long_name.gif"));
+    EXPECT_EQ(readBytes(gfx / "new.gif"), "incoming");
+    EXPECT_FALSE(fs::exists(incoming / "a_very_long_name.gif"));
+
+    fs::remove(gfx / "new.gif");
+    writeBytes(gfx / "a_very_long_name.gif", "there");
+    EXPECT_TRUE(take(gfx / "a_very_long_name.gif"));
+    EXPECT_EQ(readBytes(gfx / "new.gif"), "there");
+    EXPECT_TRUE(fs::exists(gfx / "a_very_long_name.gif")) << "it may be in use elsewhere";
+    expectSilence();
+}
+
+TEST_F(CheckFileLoc, UnderAnotherNameNothingIsReplacedUnsaid) {
+    const QString as = QStringLiteral("new.gif");
+    writeBytes(gfx / "New.GIF", "old");
+    for (const fs::path& from : {incoming, gfx, pictures}) {
+        SCOPED_TRACE(from);
+        rules.WrongFolder = 1;
+        writeBytes(from / "a_very_long_name.gif", "x");
+        EXPECT_FALSE(intake.CheckFileLoc(resources::pathText(from / "a_very_long_name.gif"),
+                                         store::ResourceFolder::gfx, as));
+        EXPECT_EQ(questions.asked.back(), "replace new.gif");
+        EXPECT_EQ(readBytes(gfx / "New.GIF"), "old");
+        EXPECT_TRUE(fs::exists(from / "a_very_long_name.gif"));
+    }
+    EXPECT_EQ(questions.asked.size(), 3U);
+}
+
+TEST_F(CheckFileName, ALongNameIsOfferedAsAShorterOneThatIsFree) {
+    const QString name = QStringLiteral("twelve_chars.gif");
+    EXPECT_EQ(intake.nameInField(name, store::ResourceFolder::gfx), QString());
+    EXPECT_EQ(questions.asked.back(), "use twelve_char.gif for twelve_chars.gif");
+    questions.takesShorter = true;
+    EXPECT_EQ(intake.nameInField(name, store::ResourceFolder::gfx),
+              QStringLiteral("twelve_char.gif"));
+    writeBytes(gfx / "TWELVE_CHAR.GIF", "in any letter case");
+    EXPECT_EQ(intake.nameInField(name, store::ResourceFolder::gfx),
+              QStringLiteral("twelve_cha2.gif"));
+    EXPECT_EQ(intake.nameInField(name, store::ResourceFolder::mmedia),
+              QStringLiteral("twelve_char.gif"))
+        << "in the other folder it is free";
+    EXPECT_TRUE(questions.told.empty());
+    EXPECT_EQ(intake.nameInField(QStringLiteral("coin.gif"), store::ResourceFolder::gfx),
+              QStringLiteral("coin.gif"));
+    EXPECT_EQ(intake.nameInField(QStringLiteral("a.fifteen_letters"), store::ResourceFolder::gfx),
+              QString());
+    EXPECT_EQ(notice().what, What::nameTooLong) << "there is no shorter one";
+}
+
 TEST_F(CheckFileLoc, CheckReplaceAsksOnlyForWhatIsThere) {
     EXPECT_TRUE(intake.CheckReplace(gfx / "coin.gif"));
     EXPECT_TRUE(questions.asked.empty());

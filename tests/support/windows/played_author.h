@@ -48,16 +48,24 @@ class PlayedBoxes : public forms::Boxes {
 /// A file dialog that chooses `choice`, or is left when that is empty.
 class PlayedDialogs : public forms::FileDialogs {
   public:
-    QString openFile(const forms::FileQuestion& question) override {
-        asked.push_back(question);
-        return choice;
+    forms::FileAnswer openFile(const forms::FileQuestion& question) override {
+        return {answer(question), kind < 0 ? question.kind : kind};
     }
-    QString chooseFolder(const forms::FileQuestion& question) override {
-        asked.push_back(question);
-        return choice;
-    }
+    QString chooseFolder(const forms::FileQuestion& question) override { return answer(question); }
     QString choice;
+    int kind = -1;  ///< the kind of files that is chosen; below 0 the one that is offered
     std::vector<forms::FileQuestion> asked;
+    /// Runs while the dialog is on the screen.
+    std::function<void()> whileAsked;
+
+  private:
+    QString answer(const forms::FileQuestion& question) {
+        asked.push_back(question);
+        if (whileAsked) {
+            whileAsked();
+        }
+        return choice;
+    }
 };
 
 /// Programs that are never started.

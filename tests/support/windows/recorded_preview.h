@@ -13,6 +13,9 @@ class RecordedPreview : public forms::Preview {
     QStringList orders;
     bool closes = true;  ///< the answer of CloseMediaEngine()
     int prepared = 0;    ///< how often prepare() was called
+    QString error;       ///< the answer of lastError()
+
+    [[nodiscard]] QString lastError() const override { return error; }
 
     void prepare() override { ++prepared; }
     void PlayWav(const QString& name, int volume, int pan, int channel, bool loop) override {
