@@ -17,8 +17,8 @@ constexpr std::array kMenuHeads = {
 
 // clang-format off
 constexpr std::array kMenuEntries = {
-    MenuEntry{"Filemen", 1, "&New Project", newProject, A::always},
-    MenuEntry{"Filemen", 2, "&Open Project", openProject, A::always},
+    MenuEntry{"Filemen", 1, "&New Project", newProject, A::noProject},
+    MenuEntry{"Filemen", 2, "&Open Project", openProject, A::noProject},
     MenuEntry{"Filemen", 3, "&Close Project", closeProject, A::project},
     MenuEntry{"Filemen", 8, "-", none, A::never, K::separator},
     MenuEntry{"Filemen", 9, "1", recentProject1, A::recentProject, K::command, "Ctrl+A"},

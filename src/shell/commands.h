@@ -56,6 +56,7 @@ enum class Availability : std::uint8_t {
     always,
     never,
     project,        ///< while a project is open
+    noProject,      ///< while none is open
     scene,          ///< while the scene that is shown has a record of its own
     roomForObject,  ///< as `scene`, while it holds fewer than 20 objects
     recentProject,  ///< where the recent list has a project

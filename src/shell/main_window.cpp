@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
+#include <QStatusTipEvent>
 #include <QToolBar>
 
 #include "forms/form.h"
@@ -165,6 +166,8 @@ bool Main::isTime(const Entry& entry, const CommandState& state,
             return state.projectOpen;
         case Availability::scene:
             return state.sceneStored;
+        case Availability::noProject:
+            return !state.projectOpen;
         case Availability::roomForObject:
             return state.sceneStored && state.roomForObject;
         case Availability::recentProject:
@@ -179,7 +182,14 @@ void Main::applyCommandState(const CommandState& state, const EditorSettings& se
     for (const Entry& entry : entries_) {
         entry.action->setEnabled(state.available.contains(entry.command) &&
                                  isTime(entry, state, settings));
+        entry.action->setStatusTip(whyOff(entry, state));
     }
+}
+
+QString Main::whyOff(const Entry& entry, const CommandState& state) {
+    return entry.availability == Availability::noProject && state.projectOpen
+               ? QStringLiteral("Close the project first.")
+               : QString();
 }
 
 void Main::showRecentProjects(const EditorSettings& settings) {
@@ -233,6 +243,14 @@ QAction* Main::action(const QString& name) const {
 void Main::closeEvent(QCloseEvent* event) {
     event->ignore();
     Q_EMIT closeAsked();
+}
+
+bool Main::event(QEvent* event) {
+    if (event->type() == QEvent::StatusTip) {
+        status_->showTip(static_cast<QStatusTipEvent*>(event)->tip());
+        return true;
+    }
+    return QMainWindow::event(event);
 }
 
 void Main::changeEvent(QEvent* event) {

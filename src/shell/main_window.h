@@ -79,6 +79,7 @@ class Main : public QMainWindow {
     void closeAsked();
 
   protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -95,6 +96,8 @@ class Main : public QMainWindow {
                       Availability availability, EntryKind kind);
     [[nodiscard]] bool isTime(const Entry& entry, const CommandState& state,
                               const EditorSettings& settings) const;
+    /// What the status line says of an entry that is off, where the author can do something.
+    [[nodiscard]] static QString whyOff(const Entry& entry, const CommandState& state);
     [[nodiscard]] QAction* action(const QString& name) const;
 
     std::vector<Entry> entries_;

@@ -243,11 +243,12 @@ void Shell::openCommandLine() {
 
 void Shell::ChooseProject() {
     const QString recent = settings_.hasRecent(1) ? settings_.RecentProj.front() : QString();
-    const QString path =
-        surroundings_.dialogs.openFile({.title = QStringLiteral("Choose a project to open"),
+    const QString path = surroundings_.dialogs
+                             .openFile({.title = QStringLiteral("Choose a project to open"),
                                         .filter = QStringLiteral("Quorvel Projects (*.qvl)|*.qvl|"),
                                         .folder = splitPath(recent).folder,
-                                        .fileName = QString()});
+                                        .fileName = QString()})
+                             .path;
     if (!path.isEmpty()) {
         openProject(path);
     }
@@ -365,7 +366,8 @@ bool Shell::CloseProject() {
             {.text = QStringLiteral("The current scene could not be saved.\n\nDo you want to close "
                                     "the project anyway and lose the changes to this scene?"),
              .icon = Box::Icon::exclamation,
-             .buttons = Box::Buttons::yesNo}) != Answer::yes) {
+             .buttons = Box::Buttons::yesNo,
+             .destroys = true}) != Answer::yes) {
         return false;
     }
     project_.ViewBorders = main_->view().bordersOn() ? 1 : 0;

@@ -39,6 +39,18 @@ QFrame* separator(QWidget* parent) {
     return line;
 }
 
+/// A text that takes the place of panels while it stands.
+QLabel* addCover(QWidget* parent, const char* name) {
+    auto* cover = new QLabel(parent);
+    cover->setObjectName(QString::fromLatin1(name));
+    cover->setTextFormat(Qt::PlainText);
+    cover->setContentsMargins(6, 1, 6, 1);
+    cover->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    cover->setAutoFillBackground(true);
+    cover->hide();
+    return cover;
+}
+
 }  // namespace
 
 StatusLines::StatusLines(QWidget* parent) : QWidget(parent) {
@@ -63,13 +75,8 @@ StatusLines::StatusLines(QWidget* parent) : QWidget(parent) {
                       QStringLiteral("Objects: 20 / 20"));
     secondRow->addWidget(count_);
 
-    notice_ = new QLabel(this);
-    notice_->setObjectName(QStringLiteral("Notice"));
-    notice_->setTextFormat(Qt::PlainText);
-    notice_->setContentsMargins(6, 1, 6, 1);
-    notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    notice_->setAutoFillBackground(true);
-    notice_->hide();
+    notice_ = addCover(this, "Notice");
+    tip_ = addCover(this, "StatusTip");
 
     auto* row = new QGridLayout(this);
     row->setContentsMargins(0, 1, 0, 1);
@@ -78,6 +85,7 @@ StatusLines::StatusLines(QWidget* parent) : QWidget(parent) {
     row->addWidget(first, 0, 0);
     row->addWidget(notice_, 0, 0);
     row->addWidget(second, 0, 1);
+    row->addWidget(tip_, 0, 0, 1, 2);
     show(canvas::emptyStatus());
     setCount(QStringLiteral("Objects:"));
 }
@@ -103,6 +111,12 @@ void StatusLines::setCount(const QString& text) {
 
 void StatusLines::showCount(int objects) {
     setCount(QStringLiteral("Objects: %1 / 20").arg(objects));
+}
+
+void StatusLines::showTip(const QString& text) {
+    tip_->setText(text);
+    tip_->setVisible(!text.isEmpty());
+    tip_->raise();
 }
 
 }  // namespace quorvel::shell

@@ -30,10 +30,14 @@ class StatusLines : public QWidget {
     /// The notice; an empty text takes it away.
     void showNotice(const QString& text);
 
+    /// A line over both, about the entry that is under the pointer; an empty one goes away.
+    void showTip(const QString& text);
+
   private:
     std::array<QLabel*, kPanels> panels_{};
     QLabel* count_ = nullptr;
     QLabel* notice_ = nullptr;
+    QLabel* tip_ = nullptr;
 };
 
 }  // namespace quorvel::shell

@@ -218,7 +218,7 @@ TEST_F(Closing, AnotherProjectClosesTheFirstInOrder) {
     start({text(first.projectPath())});
     shell->scene().header(store::HeaderString::SceneName) = "Edited";
     dialogs.choice = text(second.projectPath());
-    action(QStringLiteral("Filemen(2)")).trigger();
+    action(QStringLiteral("Toolbar1(1)")).trigger();
     EXPECT_TRUE(shell->project().ProjectOpen);
     EXPECT_EQ(main().windowTitle(), QStringLiteral("Quorvel - Second"));
     EXPECT_EQ(readBytes(first.storePath(1), 0, 6), "Edited");
@@ -232,7 +232,7 @@ TEST_F(Closing, AProjectThatFailsToOpenLeavesNoneOpen) {
     start({text(first.projectPath())});
     shell->scene().header(store::HeaderString::SceneName) = "Edited";
     dialogs.choice = text(broken.projectPath());
-    action(QStringLiteral("Filemen(2)")).trigger();
+    action(QStringLiteral("Toolbar1(1)")).trigger();
     EXPECT_EQ(boxes.shown().size(), 1U);
     expectClosed();
     EXPECT_EQ(readBytes(first.storePath(1), 0, 6), "Edited");

@@ -6,8 +6,10 @@
 #include <string>
 #include <vector>
 
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTest>
 #include <QToolBar>
 
 #include "support/windows/shell_fixture.h"
@@ -215,10 +217,10 @@ TEST_F(Commands, WithoutAProjectOnlyWhatNeedsNoneCanBeUsed) {
 }
 
 const std::set<std::string> kEnabledWithAProject = {
-    "Filemen(1)",   "Filemen(2)",  "Filemen(3)",  "Filemen(9)",   "Filemen(14)",  "projmen(1)",
-    "projmen(12)",  "scnmen(1)",   "scnmen(3)",   "runmen(0)",    "Toolbar1(1)",  "Toolbar1(2)",
-    "Toolbar1(5)",  "Toolbar1(6)", "Toolbar1(7)", "Toolbar1(10)", "Toolbar1(22)", "Toolbar1(23)",
-    "Toolbar1(25)", "options(1)",  "helpmen(1)",  "helpmen(3)",   "helpmen(5)",   "helpmen(9)"};
+    "Filemen(3)",  "Filemen(9)",   "Filemen(14)",  "projmen(1)",   "projmen(12)",  "scnmen(1)",
+    "scnmen(3)",   "runmen(0)",    "Toolbar1(1)",  "Toolbar1(2)",  "Toolbar1(5)",  "Toolbar1(6)",
+    "Toolbar1(7)", "Toolbar1(10)", "Toolbar1(22)", "Toolbar1(23)", "Toolbar1(25)", "options(1)",
+    "helpmen(1)",  "helpmen(3)",   "helpmen(5)",   "helpmen(9)"};
 
 TEST_F(Commands, AProjectEnablesItsEntriesAndClosingTakesThemBack) {
     const TestProject files = ProjectBuilder().build(projects.path());
@@ -266,6 +268,8 @@ TEST_F(Commands, AllThatNeedsAProjectFollowsIt) {
 
     // What is hidden counts as disabled: 5 of the menu, 14 and 20 of the tool bar.
     std::set<std::string> withProject = always;
+    withProject.erase("Filemen(1)");
+    withProject.erase("Filemen(2)");
     withProject.insert({"Filemen(3)", "scnmen(1)", "runmen(0)"});
     for (const int n : {0, 1, 2, 3, 4, 6, 7, 8, 9, 10, 12, 13}) {
         withProject.insert("projmen(" + std::to_string(n) + ")");
@@ -357,6 +361,58 @@ TEST_F(Commands, TheOpenEntryAsksForAProject) {
     EXPECT_EQ(shell->project().ProjectFileName, "A & B.qvl");
     EXPECT_EQ(action(QStringLiteral("projfolder")).text(),
               QStringLiteral("Project Folder is ") + text(projects.path()) + QLatin1Char('/'));
+}
+
+TEST_F(Commands, TheEntriesForAnotherProjectSayWhyTheyAreOff) {
+    const TestProject files = ProjectBuilder().build(projects.path());
+    start({text(files.projectPath())});
+    auto& line = control<QLabel>(main(), q("StatusTip"));
+    auto& menu = control<QMenu>(main(), q("FileMenu"));
+    QMenuBar* bar = main().menuBar();
+    const auto point = [&](const QString& entry) {
+        QTest::mouseMove(&menu, menu.actionGeometry(&action(entry)).center());
+        return waitUntil([&] { return menu.activeAction() == &action(entry); });
+    };
+    for (const char* entry : {"Filemen(1)", "Filemen(2)"}) {
+        SCOPED_TRACE(entry);
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu.menuAction()).center());
+        ASSERT_TRUE(waitUntil([&] { return menu.isVisible(); }));
+        EXPECT_FALSE(action(q(entry)).isEnabled());
+        ASSERT_TRUE(point(q(entry)));
+        EXPECT_TRUE(line.isVisible());
+        EXPECT_EQ(line.text(), q("Close the project first."));
+        EXPECT_GE(line.width(), line.sizeHint().width()) << "nothing is cut";
+        ASSERT_TRUE(point(q("Filemen(3)")));
+        EXPECT_FALSE(line.isVisible()) << "this one can be used";
+        ASSERT_TRUE(point(q(entry)));
+        menu.close();
+        bar->setActiveAction(nullptr);
+        EXPECT_TRUE(waitUntil([&] { return !line.isVisible(); })) << "the menu was left";
+    }
+    EXPECT_TRUE(tool(1).isEnabled());
+    EXPECT_TRUE(action(q("Filemen(9)")).isEnabled()) << "a recent project";
+    action(q("Filemen(3)")).trigger();
+    EXPECT_EQ(action(q("Filemen(1)")).statusTip(), QString());
+    EXPECT_EQ(action(q("Filemen(2)")).statusTip(), QString());
+}
+
+TEST_F(Commands, AProjectStaysOpenUntilAnotherIsChosen) {
+    const TestProject first = ProjectBuilder().build(projects.makeFolder("first"));
+    const TestProject second = ProjectBuilder().build(projects.makeFolder("second"));
+    start({text(first.projectPath())});
+    int asked = 0;
+    dialogs.whileAsked = [&] {
+        ++asked;
+        EXPECT_TRUE(shell->project().ProjectOpen);
+        EXPECT_EQ(shell->project().folder(), first.folder);
+    };
+    tool(1).trigger();
+    EXPECT_TRUE(shell->project().ProjectOpen) << "the dialog was left";
+    EXPECT_EQ(shell->project().folder(), first.folder);
+    dialogs.choice = text(second.projectPath());
+    tool(1).trigger();
+    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(shell->project().folder(), second.folder);
 }
 
 }  // namespace

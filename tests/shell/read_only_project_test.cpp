@@ -249,6 +249,7 @@ class FullDisk : public ReadOnlyProject {
                                            "to close the project anyway and lose the changes to "
                                            "this scene?"));
         EXPECT_EQ(box.buttons, Box::Buttons::yesNo);
+        EXPECT_TRUE(box.destroys);
     }
     TestProject files;
     FolderSnapshot before;
@@ -318,7 +319,7 @@ TEST_F(FullDisk, AnotherProjectIsNotOpenedWhileTheFirstStays) {
     const TestProject other = full().build(projects.makeFolder("other"));
     boxes.answer(Answer::no);
     dialogs.choice = text(other.projectPath());
-    action(QStringLiteral("Filemen(2)")).trigger();
+    action(QStringLiteral("Toolbar1(1)")).trigger();
     EXPECT_TRUE(shell->project().ProjectOpen);
     EXPECT_EQ(shell->project().ProjectFolder, store::textOf(disk.path()) + "/");
 }

@@ -174,12 +174,14 @@ TEST_F(HelpPictures, Renew) {
     for (const auto& file : std::filesystem::directory_iterator(game)) {
         project = file.path().extension() == ".qvl" ? text(file.path()) : project;
     }
+    start();
+    takeByEntry("NewProject", "Filemen(1)");
+    leave();
     start({project});
     main().showProjectFolder(QStringLiteral("/games/Lantern/"));
     main().move(0, 0);  // room for what drops down
     keep(main(), QStringLiteral("main-window"));
     takeSceneList();
-    takeByEntry("NewProject", "Filemen(1)");
     takeByEntry("NewScenefrm", "projmen(1)");
     takeByEntry("ProjSecurity", "projmen(12)");
     takeByEntry("sceneimage", "scnmen(1)");
