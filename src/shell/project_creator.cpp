@@ -1,5 +1,6 @@
 #include "shell/project_creator.h"
 
+#include <span>
 #include <utility>
 
 #include "forms/events.h"
@@ -7,7 +8,7 @@
 #include "resources/path_text.h"
 #include "resources/player_file.h"
 #include "resources/safe_copy.h"
-#include "shell/path_text.h"
+#include "shell/project_place.h"
 #include "store/creation.h"
 #include "store/paths.h"
 #include "store/security.h"
@@ -29,12 +30,6 @@ class NoProgress : public LoadProgress {
     void unload() override {}
 };
 
-QString withSeparator(const QString& folder) {
-    const QString full = GetLongFileName(folder);
-    const QString path = full.isEmpty() ? folder : full;
-    return path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/');
-}
-
 }  // namespace
 
 ProjectCreator::ProjectCreator(House house) : house_(std::move(house)) {}
@@ -46,7 +41,7 @@ bool ProjectCreator::CreateProject(const QString& folder, const QString& name) {
     project.ProjectLoading = true;
     told_ = false;
     try {
-        project.ProjectFolder = resources::pathBytes(withSeparator(folder));
+        project.ProjectFolder = resources::pathBytes(fullFolder(folder));
         project.ProjectFileName = (name + QStringLiteral(".qvl")).toStdString();
         house_.main.showProjectFolder(resources::bytesText(project.ProjectFolder));
         checkName(name);
@@ -89,7 +84,7 @@ void ProjectCreator::tell(const RuntimeError& error) {
          .icon = Box::Icon::exclamation});
 }
 
-/// The name must be a file of that folder, and not that of a project which lies there already.
+/// The name must be a file of that folder.
 void ProjectCreator::checkName(const QString& name) {
     step_ = QStringLiteral("Checking the project's file name");
     const std::string& file = house_.project.ProjectFileName;
@@ -97,10 +92,18 @@ void ProjectCreator::checkName(const QString& name) {
         resources::nameFault(QString::fromStdString(file)) != resources::NameFault::none) {
         throw RuntimeError(ErrorNumber::badFileName, store::pathOf(file));
     }
+}
+
+/// A file of that name is replaced, the author agreed to it; what a link leads to stays.
+void ProjectCreator::clearProjectFile() {
     std::error_code error;
     const fs::path path = house_.project.projectPath();
-    if (fs::exists(fs::symlink_status(path, error))) {
-        throw RuntimeError(ErrorNumber::fileExists, path);
+    if (fs::is_directory(fs::symlink_status(path, error))) {
+        throw RuntimeError(ErrorNumber::accessError, path);
+    }
+    fs::remove(path, error);
+    if (error) {
+        throw RuntimeError(store::errorNumberOf(error), path);
     }
 }
 
@@ -110,8 +113,8 @@ void ProjectCreator::copyDelivered() {
         step_ = QStringLiteral("Copying '%1'").arg(QString::fromLatin1(name));
         return store::resolvePath(house_.project.folder(), name);
     };
-    resources::copyPlayer(master, target("Game.exe"));
-    for (const char* name : {"ReadMe.txt", "Manual.txt"}) {
+    resources::copyPlayer(master, target(kDelivered.front()));
+    for (const char* name : std::span(kDelivered).subspan(1)) {
         resources::copySafely(store::resolvePath(master.parent_path(), name), target(name));
     }
 }
@@ -119,6 +122,7 @@ void ProjectCreator::copyDelivered() {
 void ProjectCreator::makeFiles() {
     store::Project& project = house_.project;
     step_ = QStringLiteral("Writing the project file");
+    clearProjectFile();
     project.WriteNewProjectFile();
     project.takeProjectRecord(store::newRecord<store::ProjectRecord>());
     // The file holds 1 until the first close, which drops the code since security is off.

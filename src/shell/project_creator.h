@@ -29,12 +29,14 @@ class ProjectCreator {
     explicit ProjectCreator(House house);
 
     /// Makes the project `name`, without its ending, in `folder`, and opens it. No other project
-    /// may be open. False when a step failed: the author has been told which and why, all files are
-    /// closed, and what was made before stays on the disk.
+    /// is open then. What stands in the way of its files is replaced, but for folders: whoever
+    /// calls has asked the author. False when a step failed: the author has been told which and
+    /// why, all files are closed, and what was made before stays on the disk.
     bool CreateProject(const QString& folder, const QString& name);
 
   private:
     void checkName(const QString& name);
+    void clearProjectFile();
     void copyDelivered();
     void makeFiles();
     void open();

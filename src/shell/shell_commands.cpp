@@ -79,6 +79,7 @@ void Shell::showNewProject() {
     }
     NewProject window(
         {.dialogs = surroundings_.dialogs,
+         .boxes = surroundings_.boxes,
          .startFolder = start.path(),
          .create = [this](const QString& folder,
                           const QString& name) { return createProject(folder, name); },
@@ -91,9 +92,6 @@ void Shell::showNewProject() {
 
 bool Shell::createProject(const QString& folder, const QString& name) {
     if (shuttingDown_) {  // the system's request came while the window painted its label
-        return false;
-    }
-    if (project_.ProjectOpen && !CloseProject()) {
         return false;
     }
     if (!creator_->CreateProject(folder, name)) {

@@ -96,57 +96,119 @@ TEST_F(NewProjectFailures, AFolderThatIsGoneIsTold) {
     EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Error 76 (Path not found)"));
 }
 
-TEST_F(NewProjectFailures, ANameThatIsNoneIsTold) {
+TEST_F(NewProjectFailures, ANameThatCannotBeAFilesGetsWordsOnWhatCan) {
     begin();
-    for (const char* name : {"", "  ", "a/b", "..\\x", "what?", "nul", "\xE2\x82\xAC\xCE\xB1"}) {
-        SCOPED_TRACE(name);
-        createInVain(projects.path(), name);
-        EXPECT_THAT(step().toStdString(),
-                    ::testing::HasSubstr("Step: Checking the project's file name\n"));
-        EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Error 52 "));
+    struct Case {
+        const char* name;
+        const char* reason;
+    };
+    for (const Case& one :
+         {Case{"", "The filename is empty."}, Case{"  ", "The filename is empty."},
+          Case{"a/b",
+               "It has a character that a Windows filename cannot have:  < > : \" / \\ | ? "
+               "*  or a control character."},
+          Case{"what?",
+               "It has a character that a Windows filename cannot have:  < > : \" / \\ | "
+               "? *  or a control character."},
+          Case{" a", "It begins or ends with a blank."},
+          Case{"nul", "On Windows it is the name of a device."},
+          Case{"\xCE\xB1",
+               "It has a character that a game cannot keep: only those of the Windows character "
+               "set for Western Europe (1252) are possible."}}) {
+        SCOPED_TRACE(one.name);
+        withNewProject([&](QWidget& window) {
+            choose(window, projects.path());
+            QLineEdit& box = field(window, "Text2");
+            box.setText(QString::fromUtf8(one.name));
+            button(window, "Command2").click();
+            EXPECT_TRUE(window.isVisible());
+            EXPECT_EQ(window.focusWidget(), &box);
+            EXPECT_EQ(box.selectedText(), QString::fromUtf8(one.name));
+        });
+        EXPECT_EQ(step(), QStringLiteral("A project cannot have the filename \"%1\".\n\n%2\n\nA "
+                                         "filename has 1 to 11 characters.  Letters, digits and "
+                                         "blanks between them can be used, and marks such as - _ ! "
+                                         "( ).")
+                              .arg(QString::fromUtf8(one.name), QString::fromUtf8(one.reason)));
         EXPECT_TRUE(fs::is_empty(projects.path()));
         boxes.forget();
     }
 }
 
-TEST_F(NewProjectFailures, AProjectFileThatLiesThereIsKept) {
+TEST_F(NewProjectFailures, WhatWouldBeReplacedIsNamedFirst) {
     begin();
-    writeBytes(projects / "PROJECT.QVL", "somebody's project");
+    for (const char* name : {"README.txt", "Manual.txt", "PROJECT.QVL", "notes.txt"}) {
+        writeBytes(projects / name, "the author's own");
+    }
+    projects.makeFolder("pictures");
+    const auto before = snapshotOf(projects.path());
+    boxes.answer(forms::Answer::no);
     createInVain(projects.path());
-    EXPECT_THAT(
-        step().toStdString(),
-        ::testing::HasSubstr("Error 58 (File already exists)\nIt is in the folder already."));
-    EXPECT_EQ(readBytes(projects / "PROJECT.QVL"), "somebody's project");
+    EXPECT_EQ(differences(before, snapshotOf(projects.path())), "");
+    ASSERT_EQ(boxes.shown().size(), 1U) << "one question";
+    const forms::Box& box = boxes.shown().front();
+    EXPECT_EQ(box.text,
+              QStringLiteral("The new project would replace:\n\nManual.txt\nPROJECT.QVL\n"
+                             "README.txt\n\nin the folder:\n\n%1/\n\n2 other files and folders in "
+                             "it would stay.\n\nDo you want to make the new project there all the "
+                             "same?")
+                  .arg(text(projects.path())));
+    EXPECT_EQ(box.title, QStringLiteral("New Project"));
+    EXPECT_EQ(box.buttons, forms::Box::Buttons::yesNo);
+    EXPECT_TRUE(box.destroys);
     boxes.forget();
-    create(projects.path(), "Another");
+
+    boxes.answer(forms::Answer::yes);
+    create(projects.path());
     EXPECT_TRUE(shell->project().ProjectOpen);
+    EXPECT_EQ(readBytes(projects / "README.txt"), "the ReadMe.txt");
+    EXPECT_EQ(readBytes(projects / "Manual.txt"), "the Manual.txt");
+    EXPECT_EQ(readBytes(projects / "notes.txt"), "the author's own");
+    EXPECT_TRUE(shell->CloseProject());
+    std::string names;
+    for (const auto& [name, bytes] : snapshotOf(projects.path())) {
+        names += name.ends_with(".qvl") || name.ends_with(".QVL") ? name + " " : "";
+    }
+    EXPECT_EQ(names, "Project.qvl ") << "no second one beside another spelling";
 }
 
-TEST_F(NewProjectFailures, AProjectThatTheAuthorKeepsStaysOpen) {
-    files = ProjectBuilder().build(projects.makeFolder("old"));
+TEST_F(NewProjectFailures, AFolderWithOtherThingsAloneIsAskedForToo) {
     begin();
-    EXPECT_TRUE(shell->openProject(text(files.projectPath())));
-    const fs::path folder = projects.makeFolder("new");
-    // The scene cannot be written any more, for a reason that is told and asked about.
-    shell->project().sceneFile.close();
-    const SmallDisk disk(64);
-    if (!disk.isMounted()) {
-        GTEST_SKIP() << disk.whyNot();
-    }
-    fs::copy(files.storePath(1), disk.path() / "Quorvel1.dat");
-    shell->project().sceneFile.open(disk.path() / "Quorvel1.dat");
-    truncateFile(disk.path() / "Quorvel1.dat", 0);
-    disk.fill();
+    writeBytes(projects / ".hidden", "x");
     boxes.answer(forms::Answer::no);
+    createInVain(projects.path());
+    EXPECT_EQ(boxes.texts(),
+              QStringList{QStringLiteral("Nothing would be replaced, but the folder is not empty:"
+                                         "\n\n%1/\n\nOne other file or folder in it would stay.\n\n"
+                                         "Do you want to make the new project there all the same?")
+                              .arg(text(projects.path()))});
+}
+
+TEST_F(NewProjectFailures, AProjectFileThatLeadsElsewhereIsReplacedAndNotFollowed) {
+    begin();
+    const fs::path elsewhere = home / "elsewhere.txt";
+    writeBytes(elsewhere, "somebody's text");
+    fs::create_symlink(elsewhere, projects / "Project.qvl");
+    boxes.answer(forms::Answer::yes);
+    create(projects.path());
+    EXPECT_TRUE(shell->CloseProject());
+    EXPECT_EQ(readBytes(elsewhere), "somebody's text");
+    EXPECT_FALSE(fs::is_symlink(projects / "Project.qvl"));
+}
+
+TEST_F(NewProjectFailures, AFolderInTheWayOfTheProjectFileStays) {
+    begin();
+    fs::create_directory(projects / "Project.qvl");
+    boxes.answer(forms::Answer::yes);
     withNewProject([&](QWidget& window) {
-        choose(window, folder);
+        choose(window, projects.path());
         button(window, "Command2").click();
         EXPECT_TRUE(window.isVisible());
-        EXPECT_TRUE(button(window, "Command2").isEnabled());
     });
-    EXPECT_TRUE(shell->project().ProjectOpen);
-    EXPECT_EQ(shell->project().ProjectFileName, files.fileName);
-    EXPECT_TRUE(fs::is_empty(folder));
+    ASSERT_EQ(boxes.shown().size(), 2U);
+    EXPECT_THAT(boxes.texts().back().toStdString(),
+                ::testing::HasSubstr("Step: Writing the project file\n"));
+    EXPECT_TRUE(fs::is_directory(projects / "Project.qvl"));
 }
 
 TEST_F(NewProjectFailures, EscapeDoesNotInterruptTheWork) {
@@ -209,7 +271,6 @@ TEST_F(NewProjectFailures, ADiskThatIsFullAtTheLastStepsIsTold) {
 TEST_F(NewProjectFailures, ASecondTryInTheSameFolderFindsTheRemainsOfTheFirst) {
     begin();
     fs::remove(install / "QuorvelDefaults/Manual.txt");
-    writeBytes(projects / "notes.txt", "the author's own");
     withNewProject([&](QWidget& window) {
         choose(window, projects.path());
         button(window, "Command2").click();
@@ -224,33 +285,16 @@ TEST_F(NewProjectFailures, ASecondTryInTheSameFolderFindsTheRemainsOfTheFirst) {
         boxes.forget();
 
         fs::remove_all(projects / "resource");
+        boxes.answer(forms::Answer::yes);
         button(window, "Command2").click();
         EXPECT_FALSE(window.isVisible());
     });
     EXPECT_TRUE(shell->project().ProjectOpen);
-    EXPECT_EQ(boxes.texts(), QStringList());
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_THAT(boxes.texts().front().toStdString(),
+                ::testing::StartsWith("The new project would replace:\n\nGame.exe\nReadMe.txt\n"));
     EXPECT_EQ(readBytes(projects / "Manual.txt"), "found again");
-    EXPECT_EQ(readBytes(projects / "notes.txt"), "the author's own");
     EXPECT_EQ(reader->tips, std::vector<int>{7});
-}
-
-TEST_F(NewProjectFailures, TheProjectThatWasOpenIsClosedInOrderBefore) {
-    files = ProjectBuilder().fileName("Old.qvl").scenes(3).build(projects.makeFolder("old"));
-    begin();
-    EXPECT_TRUE(shell->openProject(text(files.projectPath())));
-    shell->scene().header(store::HeaderString::SceneName) = "Saved late";
-    const fs::path folder = projects.makeFolder("new");
-    fs::create_directory(folder / "resource");
-    createInVain(folder);
-    EXPECT_THAT(step().toStdString(), ::testing::HasSubstr("Step: Making the folders\n"));
-    EXPECT_EQ(readBytes(files.storePath(1), 0, 10), "Saved late");
-    EXPECT_EQ(main().windowTitle(), QStringLiteral("Quorvel"));
-    EXPECT_EQ(shell->settings().RecentProj[0], text(files.projectPath())) << "a click away";
-    boxes.forget();
-    action(QStringLiteral("Filemen(9)")).trigger();
-    EXPECT_TRUE(shell->project().ProjectOpen);
-    EXPECT_EQ(shell->project().NumberOfScenes, 3);
-    EXPECT_EQ(boxes.texts(), QStringList());
 }
 
 TEST_F(NewProjectFailures, AProjectWithoutItsStoresIsToldInOneBoxWhenItIsOpened) {

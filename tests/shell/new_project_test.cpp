@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSet>
+#include <QTest>
 #include <QTimer>
 
 #include "shell/new_project_stage.h"
@@ -49,14 +50,56 @@ TEST_F(NewProject, TheWindowSaysWhatToDo) {
         EXPECT_FALSE(control<QLabel>(window, QStringLiteral("Label6")).isVisible());
         EXPECT_TRUE(field(window, "Text1").isReadOnly());
         EXPECT_EQ(field(window, "Text2").text(), QStringLiteral("Project"));
-        EXPECT_EQ(field(window, "Text2").maxLength(), 11);
         EXPECT_EQ(button(window, "Command1").text(), QStringLiteral("Choose Folder"));
         EXPECT_EQ(button(window, "Command3").text(), QStringLiteral("Cancel"));
         EXPECT_EQ(button(window, "Command5").text(), QStringLiteral("Help"));
     });
 }
 
-TEST_F(NewProject, ThePictureOfTheButtonStandsInItsGapHoweverHighTheLabelIs) {
+/// The widest run of columns without ink between inked ones, over all lines of `picture`.
+int widestGap(const QImage& picture, int line) {
+    const QRgb paper = picture.pixel(picture.width() - 1, picture.height() - 1);
+    int widest = 0;
+    for (int top = 0; top + line <= picture.height(); top += line) {
+        int last = -1;
+        for (int x = 0; x < picture.width(); ++x) {
+            bool ink = false;
+            for (int y = top; y < top + line && !ink; ++y) {
+                ink = picture.pixel(x, y) != paper;
+            }
+            if (ink) {
+                widest = std::max(widest, last < 0 ? 0 : x - last - 1);
+                last = x;
+            }
+        }
+    }
+    return widest;
+}
+
+TEST_F(NewProject, OnlyThePaintingClosesTheGapsOfTheTip) {
+    begin();
+    withNewProject([&](QWidget& window) {
+        auto& tip = control<QLabel>(window, QStringLiteral("Label7"));
+        const QString text = QStringLiteral(
+            "TIP- You can create a new folder by clicking on the            button in the 'Choose "
+            "           Folder' Dialog Box.  After creating a new folder, be sure to double-click "
+            "it to choose it!");
+        EXPECT_EQ(tip.text(), text);
+        const QFontMetrics metrics = tip.fontMetrics();
+        const int blank = metrics.horizontalAdvance(QLatin1Char(' '));
+        const auto gapAt = [&](int width) {
+            tip.setFixedWidth(width);
+            tip.setFixedHeight(tip.heightForWidth(width));
+            return widestGap(tip.grab().toImage(), metrics.height());
+        };
+        for (const int width : {tip.width(), 420, 2000}) {
+            SCOPED_TRACE(width);
+            EXPECT_LT(gapAt(width), 4 * blank) << "two blanks follow a sentence, twelve nothing";
+        }
+    });
+}
+
+TEST_F(NewProject, ThePictureOfTheButtonStandsInTheTipHoweverHighItIs) {
     begin();
     withNewProject([&](QWidget& window) {
         auto& tip = control<QLabel>(window, QStringLiteral("Label7"));
@@ -69,17 +112,16 @@ TEST_F(NewProject, ThePictureOfTheButtonStandsInItsGapHoweverHighTheLabelIs) {
         const QImage asUsual = picture(usual);
         const QImage higher = picture(usual + 60);
         EXPECT_EQ(higher.copy(asUsual.rect()), asUsual) << "text and picture stay at the top";
-
-        const QFontMetrics metrics = tip.fontMetrics();
-        const QString before = tip.text().left(tip.text().indexOf(QStringLiteral("            ")));
-        const double scale = asUsual.devicePixelRatio();
-        const QRectF gap(metrics.horizontalAdvance(before) * scale, 0,
-                         12 * metrics.horizontalAdvance(QLatin1Char(' ')) * scale,
-                         metrics.lineSpacing() * scale);
-        const QImage inGap = asUsual.copy(gap.toAlignedRect());
-        QImage empty = inGap;
-        empty.fill(inGap.pixel(0, 0));
-        EXPECT_NE(inGap, empty) << "there is a picture";
+        QSet<QRgb> colours;
+        for (int x = 0; x < asUsual.width(); ++x) {
+            for (int y = 0; y < asUsual.height(); ++y) {
+                const QColor colour = asUsual.pixelColor(x, y);
+                if (colour.saturation() > 60) {
+                    colours.insert(colour.rgb());
+                }
+            }
+        }
+        EXPECT_FALSE(colours.isEmpty()) << "there is a picture";
     });
 }
 
@@ -102,6 +144,70 @@ TEST_F(NewProject, OkWaitsForAFolder) {
         EXPECT_EQ(dialogs.asked.front().fileName, QStringLiteral("-Choose an empty folder-"));
     });
     EXPECT_TRUE(fs::is_empty(projects.path())) << "cancelled: nothing has been created";
+}
+
+TEST_F(NewProject, TheWholePathIsShownBeforeItIsMade) {
+    begin();
+    const fs::path game = projects.makeFolder("A Game");
+    fs::create_symlink(game, projects / "link");
+    withNewProject([&](QWidget& window) {
+        auto& path = control<QLabel>(window, QStringLiteral("NoteOfPath"));
+        EXPECT_FALSE(path.isVisible()) << "there is no folder yet";
+        choose(window, projects / "link");
+        EXPECT_TRUE(path.isVisible());
+        EXPECT_EQ(path.text(),
+                  QStringLiteral("Will be made:  ") + text(game) + QStringLiteral("/Project.qvl"));
+        field(window, "Text2").setText(QStringLiteral("Castle.QVL"));
+        EXPECT_EQ(path.text(),
+                  QStringLiteral("Will be made:  ") + text(game) + QStringLiteral("/Castle.qvl"));
+        field(window, "Text2").clear();
+        EXPECT_FALSE(path.isVisible());
+        field(window, "Text2").setText(QStringLiteral("Castle"));
+        button(window, "Command2").click();
+    });
+    EXPECT_TRUE(fs::exists(game / "Castle.qvl"));
+}
+
+TEST_F(NewProject, TheEndingIsTakenOffBeforeTheCharactersAreCounted) {
+    begin();
+    withNewProject([&](QWidget& window) {
+        QLineEdit& box = field(window, "Text2");
+        auto& note = control<QLabel>(window, QStringLiteral("NoteOfText2"));
+        const auto type = [&](const char* name) {
+            box.setFocus();
+            box.selectAll();
+            QTest::keyClick(&box, Qt::Key_Backspace);
+            QTest::keyClicks(&box, QString::fromLatin1(name));
+            const bool isCut = note.isVisible();
+            window.setFocus();  // leaves the box
+            EXPECT_EQ(note.isVisible(), isCut);
+            return std::pair(box.text().toStdString(), isCut);
+        };
+        const auto whole = [](const char* name) { return std::pair(std::string(name), false); };
+        const auto cut = [](const char* name) { return std::pair(std::string(name), true); };
+        EXPECT_EQ(type("Castle"), whole("Castle"));
+        EXPECT_EQ(type("Castle.qvl"), whole("Castle"));
+        EXPECT_EQ(type("Castle.Qvl"), whole("Castle"));
+        EXPECT_EQ(type("ElevenChars"), whole("ElevenChars"));
+        EXPECT_EQ(type("ElevenChars.qvl"), whole("ElevenChars"));
+        EXPECT_EQ(type("Castle.qvx"), whole("Castle.qvx"));
+        EXPECT_EQ(type("TwelveLetter"), cut("TwelveLette"));
+        EXPECT_EQ(note.text(),
+                  QStringLiteral("A project's filename has at most 11 characters.  The "
+                                 "rest was cut off."));
+        box.setText(QStringLiteral("TwelveLetter.qvl"));
+        EXPECT_TRUE(note.isVisible()) << "pasted";
+        EXPECT_EQ(box.text(), QStringLiteral("TwelveLette.qvl"));
+        box.setText(QStringLiteral("Castle"));
+        EXPECT_FALSE(note.isVisible()) << "nothing was cut";
+    });
+}
+
+TEST_F(NewProject, AnEndingThatWasTypedIsNotGivenTwice) {
+    begin();
+    create(projects.path(), "ElevenChars.qvl");
+    EXPECT_EQ(shell->project().ProjectFileName, "ElevenChars.qvl");
+    EXPECT_TRUE(fs::exists(projects / "ElevenChars.qvl"));
 }
 
 TEST_F(NewProject, EveryFileOfTheProjectIsThere) {
@@ -213,7 +319,7 @@ TEST_F(NewProject, TheEmptyStoresPassTheSecurityPass) {
     fs::remove_all(copy);
 }
 
-TEST_F(NewProject, TheOpenProjectIsClosedInOrderFirst) {
+TEST_F(NewProject, TheProjectBeforeLeavesNoNumbersInIt) {
     files = ProjectBuilder()
                 .fileName("Old.qvl")
                 .author("Ann")
@@ -226,9 +332,8 @@ TEST_F(NewProject, TheOpenProjectIsClosedInOrderFirst) {
                 .build(projects.makeFolder("old"));
     begin();
     EXPECT_TRUE(shell->openProject(text(files.projectPath())));
-    shell->scene().header(store::HeaderString::SceneName) = "Saved late";
+    EXPECT_TRUE(shell->CloseProject());
     create(projects.makeFolder("new"));
-    EXPECT_EQ(readBytes(files.storePath(1), 0, 10), "Saved late");
     const store::Project& project = shell->project();
     EXPECT_EQ(project.ProjectFileName, "Project.qvl");
     EXPECT_EQ(project.CurrentItem, 0);
@@ -252,6 +357,7 @@ TEST_F(NewProject, NothingOfTheProjectBeforeIsLeftInIt) {
     EXPECT_TRUE(shell->openProject(text(files.projectPath())));
     boxes.forget();
     action(QStringLiteral("Toolbar1(7)")).trigger();
+    EXPECT_TRUE(shell->CloseProject());
     create(projects.makeFolder("new"));
     EXPECT_EQ(shell->scene().header(store::HeaderString::SceneImage), "");
     EXPECT_EQ(store::number(shell->scene().slot(3), store::kType), -1) << "a free slot";
@@ -268,6 +374,7 @@ TEST_F(NewProject, TheCodeIsWithinItsRange) {
     nextRandom = 0;
     create(projects.makeFolder("a"));
     EXPECT_EQ(shell->project().SecurityCode, 1);
+    EXPECT_TRUE(shell->CloseProject());
     nextRandom = 0.99999999;
     create(projects.makeFolder("b"));
     EXPECT_EQ(shell->project().SecurityCode, 5000);
