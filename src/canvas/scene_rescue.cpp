@@ -20,18 +20,20 @@ const QString kStays = QStringLiteral(
 
 }  // namespace
 
-bool SceneRescue::ask(const QString& text) const {
-    return boxes_.show(
-               {.text = text, .icon = Box::Icon::exclamation, .buttons = Box::Buttons::yesNo}) ==
-           Answer::yes;
+bool SceneRescue::ask(const QString& text, bool overwrites) const {
+    return boxes_.show({.text = text,
+                        .icon = Box::Icon::exclamation,
+                        .buttons = Box::Buttons::yesNo,
+                        .destroys = overwrites}) == Answer::yes;
 }
 
 bool SceneRescue::mayOverwrite() const {
     return ask(QStringLiteral("Scene %1 was changed by another program after you went to it:\n\n"
                               "%2\n\nDo you want to write your scene over it?")
-                   .arg(QString::number(project_.CurrentScene),
-                        resources::pathText(project_.sceneFile.path())) +
-               kStays);
+                       .arg(QString::number(project_.CurrentScene),
+                            resources::pathText(project_.sceneFile.path())) +
+                   kStays,
+               true);
 }
 
 SceneRescue::Way SceneRescue::takeStore(const store::LostFileError& loss) {
@@ -48,10 +50,12 @@ SceneRescue::Way SceneRescue::putBack(const store::LostFileError& loss) {
              .icon = Box::Icon::exclamation});
         return Way::stay;
     }
-    if (!ask(told +
-             QStringLiteral("\n\nDo you want to put the file back, with all scenes as they were "
-                            "saved last and with the scene that you are working on?") +
-             kStays)) {
+    if (!ask(
+            told +
+                QStringLiteral("\n\nDo you want to put the file back, with all scenes as they were "
+                               "saved last and with the scene that you are working on?") +
+                kStays,
+            false)) {
         return Way::stay;
     }
     project_.sceneFile.putBack();
@@ -88,7 +92,7 @@ SceneRescue::Way SceneRescue::takeOther(const store::LostFileError& loss) {
                               : QStringLiteral(" and write your scene over its scene %1");
     const QString question = QStringLiteral("\n\nDo you want to go on with the file as it is now") +
                              (writes ? what.arg(number) : QString()) + QLatin1Char('?');
-    if (!ask(told + question + kStays)) {
+    if (!ask(told + question + kStays, writes && !adds)) {
         return Way::stay;
     }
     project_.ReadSceneList();

@@ -39,7 +39,8 @@ class SceneRescue {
     Way takeOther(const store::LostFileError& loss);
     /// The number that the scene can have in another store; 0 for none.
     [[nodiscard]] int placeIn(const store::RecordFile<store::SceneRecord>& file) const;
-    [[nodiscard]] bool ask(const QString& text) const;
+    /// `overwrites`: Yes writes over a scene that somebody else has made.
+    [[nodiscard]] bool ask(const QString& text, bool overwrites) const;
 
     store::Project& project_;
     const store::Scene& scene_;

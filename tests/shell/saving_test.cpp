@@ -63,6 +63,7 @@ TEST_F(Saving, AStoreThatAnotherTookThePlaceOfIsTakenWithTheScene) {
                                  "scene 1?")
                       .arg(path()) +
                   kStays);
+    EXPECT_TRUE(boxes.shown().front().destroys);
     EXPECT_EQ(stored(1, 4, 2), 200);
     EXPECT_EQ(current(), 2);
     EXPECT_EQ(shell->scene().header(store::HeaderString::SceneName), "Elsewhere");
@@ -259,6 +260,7 @@ TEST_F(Saving, ARecordThatOthersWroteIsOverwrittenWhenTheAuthorSaysSo) {
                              "\n\nDo you want to write your scene over it?")
                       .arg(path()) +
                   kStays);
+    EXPECT_TRUE(boxes.shown().front().destroys);
     EXPECT_EQ(readBytes(store_), theirs);
     EXPECT_EQ(current(), 1);
     EXPECT_EQ(slot(4).SlotInt(2), 200);
