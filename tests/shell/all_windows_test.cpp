@@ -15,7 +15,6 @@
 #include "forms/events.h"
 #include "forms/intake_boxes.h"
 #include "forms/look.h"
-#include "forms/note_line.h"
 #include "resources/path_text.h"
 #include "shell/splash.h"
 #include "support/windows/shell_fixture.h"
@@ -349,53 +348,6 @@ TEST_P(AllEditors, Scene) {
     scene.header(HeaderInt::SceneSound3Volume) = -900;
     checkEditor(QStringLiteral("sceneimage"),
                 [this] { action(QStringLiteral("scnmen(1)")).trigger(); });
-}
-
-/// Lets every line below a box say as much as one ever has to.
-void fillNotes(QWidget& window) {
-    for (auto* note : window.findChildren<forms::NoteLine*>()) {
-        note->tell(
-            QStringLiteral("\"elevenchars.wav\" was taken, but it holds an MPG movie and not a "
-                           "WAV sound.  Every player knows .wav, .avi and .mpg."));
-    }
-    forms::letEventsRun();
-}
-
-TEST_P(AllEditors, SceneWithEveryLineBelowItsBoxes) {
-    withWindow(
-        QStringLiteral("sceneimage"), [this] { action(QStringLiteral("scnmen(1)")).trigger(); },
-        [this](QWidget& window) {
-            fillNotes(window);
-            check(window, QStringLiteral("sceneimage-notes"));
-            window.close();
-        });
-}
-
-TEST_P(AllEditors, HotSpotWithEveryLineBelowItsBoxes) {
-    fillHotSpot(shell->scene().slot(20));
-    shell->actions().PopupObject = 20;
-    withWindow(
-        QStringLiteral("linkPropf"), [this] { shell->actions().ShowObjectProps(1); },
-        [this](QWidget& window) {
-            fillNotes(window);
-            check(window, QStringLiteral("linkPropf-notes"));
-            window.close();
-        });
-}
-
-TEST_P(AllWindows, NewProjectWithItsLines) {
-    start();
-    withWindow(
-        QStringLiteral("NewProject"), [this] { action(QStringLiteral("Filemen(1)")).trigger(); },
-        [&](QWidget& window) {
-            dialogs.choice = text(projects.makeFolder(std::string(120, 'x'))) + QLatin1Char('/');
-            control<QPushButton>(window, QStringLiteral("Command1")).click();
-            control<QLineEdit>(window, QStringLiteral("Text2"))
-                .setText(QStringLiteral("TwelveLetter"));
-            forms::letEventsRun();
-            check(window, QStringLiteral("NewProject-notes"));
-            window.close();
-        });
 }
 
 TEST_P(AllWindows, Boxes) {
