@@ -84,6 +84,8 @@ class OutlinedStyle : public QProxyStyle {
                 return 0;
             case SH_DialogButtonLayout:
                 return QDialogButtonBox::WinLayout;
+            case SH_Menu_AllowActiveAndDisabled:
+                return 1;  // an entry that is off can say why
             default:
                 return QProxyStyle::styleHint(hint, option, widget, result);
         }
