@@ -18,6 +18,11 @@ constexpr int kAbove = 1;
 /// What the text asks for where nothing else gives it a width, in pixels.
 constexpr int kNarrow = 120;
 
+/// As a layout wants it: a line break is a character of its own there.
+QString laidOut(QString text) {
+    return text.replace(QLatin1Char('\n'), QChar::LineSeparator);
+}
+
 }  // namespace
 
 NoteLine::NoteLine(const QString& name, QWidget* parent) : QLabel(parent) {
@@ -43,7 +48,7 @@ void NoteLine::tell(const QString& text) {
 }
 
 int NoteLine::heightForWidth(int width) const {
-    QTextLayout layout(text(), font());
+    QTextLayout layout(laidOut(text()), font());
     return breakLines(layout, width - kTextLeft) + 2 * kAbove;
 }
 
@@ -58,7 +63,7 @@ QSize NoteLine::sizeHint() const {
 void NoteLine::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(0, kAbove, kBar, height() - 2 * kAbove, palette().color(QPalette::Link));
-    QTextLayout layout(text(), font());
+    QTextLayout layout(laidOut(text()), font());
     breakLines(layout, width() - kTextLeft);
     painter.setPen(palette().color(QPalette::WindowText));
     layout.draw(&painter, {kTextLeft, kAbove});

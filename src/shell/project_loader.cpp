@@ -117,7 +117,8 @@ void ProjectLoader::askAboutOtherEditor() {
                          .arg(resources::pathText(project.projectPath())),
              .title = QStringLiteral("Project in use"),
              .icon = Box::Icon::exclamation,
-             .buttons = Box::Buttons::yesNo}) != Answer::yes) {
+             .buttons = Box::Buttons::yesNo,
+             .destroys = true}) != Answer::yes) {
         project.lookOn();
     }
 }

@@ -42,6 +42,7 @@ TEST_F(TwoEditors, TheSecondIsToldAndTheFirstIsNot) {
                              "all the same?  Click 'No' to look at it only; nothing is saved then.")
                   .arg(text(files.projectPath())));
     EXPECT_EQ(box.title, QStringLiteral("Project in use"));
+    EXPECT_TRUE(box.destroys) << "each writes over what the other has changed";
     EXPECT_EQ(box.icon, Box::Icon::exclamation);
     EXPECT_EQ(box.buttons, Box::Buttons::yesNo);
     shell.reset();
