@@ -8,6 +8,9 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QToolTip>
+
+#include "forms/legible.h"
 
 // Resources of a static library are not found until they are named; the macro wants the global
 // namespace.
@@ -19,8 +22,9 @@ namespace quorvel::forms {
 namespace {
 
 struct Tones {
-    // `filled`: the filled half of a slider that is disabled, quieter than its handle.
-    QColor window, text, base, alternate, button, highlight, highlighted, link, disabled, filled;
+    QColor window, text, base, alternate, button, highlight, highlighted, link, visited;
+    // Of what is off: its text, a button, the filled half of a slider, quieter than its handle.
+    QColor disabled, flush, filled;
 };
 
 QPalette paletteOf(const Tones& tones) {
@@ -35,11 +39,14 @@ QPalette paletteOf(const Tones& tones) {
     palette.setColor(QPalette::Highlight, tones.highlight);
     palette.setColor(QPalette::HighlightedText, tones.highlighted);
     palette.setColor(QPalette::Link, tones.link);
+    palette.setColor(QPalette::LinkVisited, tones.visited);
     palette.setColor(QPalette::PlaceholderText, tones.disabled);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(QPalette::Disabled, role, tones.disabled);
     }
+    palette.setColor(QPalette::Disabled, QPalette::Button, tones.flush);
     palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.filled);
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, tones.text);
     return palette;
 }
 
@@ -49,10 +56,12 @@ QPalette lightPalette() {
                       .base = QColor(0xffffff),
                       .alternate = QColor(0xf0f2f4),
                       .button = QColor(0xe9eaea),
-                      .highlight = QColor(0x1f8f84),
+                      .highlight = QColor(0x1a7d73),
                       .highlighted = QColor(0xffffff),
                       .link = QColor(0x14756b),
-                      .disabled = QColor(0x9a9fa5),
+                      .visited = QColor(0x5f5596),
+                      .disabled = QColor(0x5c6269),
+                      .flush = QColor(0xefefee),
                       .filled = QColor(0xb9bdc2)});
 }
 
@@ -62,15 +71,17 @@ QPalette darkPalette() {
                       .base = QColor(0x25272a),
                       .alternate = QColor(0x2c2f33),
                       .button = QColor(0x464a50),
-                      .highlight = QColor(0x1f8f84),
+                      .highlight = QColor(0x1a7d73),
                       .highlighted = QColor(0xffffff),
                       .link = QColor(0x4cc4b8),
-                      .disabled = QColor(0x82878f),
+                      .visited = QColor(0xc0b0e6),
+                      .disabled = QColor(0xa9aeb5),
+                      .flush = QColor(0x2b2d31),
                       .filled = QColor(0x5c6168)});
 }
 
 /// The base style draws the edges of boxes and circles darker than the window, where a dark window
-/// swallows them.
+/// swallows them, and a text that is off a second time in white, which is no shine on a dark menu.
 class OutlinedStyle : public QProxyStyle {
   public:
     OutlinedStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
@@ -80,6 +91,7 @@ class OutlinedStyle : public QProxyStyle {
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* result) const override {
         switch (hint) {
+            case SH_EtchDisabledText:
             case SH_DialogButtonBox_ButtonsHaveIcons:
                 return 0;
             case SH_DialogButtonLayout:
@@ -139,11 +151,11 @@ Look lookFromEnvironment() {
 void applyLook(QApplication& application, Look look) {
     initAssets();
     QApplication::setStyle(new OutlinedStyle);
-    if (look == Look::light) {
-        QApplication::setPalette(lightPalette());
-    } else if (look == Look::dark) {
-        QApplication::setPalette(darkPalette());
-    }
+    const QPalette palette = look == Look::light  ? lightPalette()
+                             : look == Look::dark ? darkPalette()
+                                                  : legible(QApplication::palette());
+    QApplication::setPalette(palette);
+    QToolTip::setPalette(palette);
     application.setWindowIcon(icon(QStringLiteral("quorvel")));
 }
 

@@ -1,15 +1,31 @@
 // Palettes, icons and stock pictures.
 #include "forms/look.h"
 
-#include <cmath>
+#include <algorithm>
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFile>
+#include <QGroupBox>
 #include <QImageReader>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPalette>
 #include <QRadioButton>
+#include <QTabBar>
+#include <QToolTip>
+#include <QVBoxLayout>
+
+#include "forms/events.h"
+#include "forms/wrap_button.h"
+#include "support/windows/played_author.h"
+#include "support/windows/text_contrast.h"
 
 namespace quorvel::test {
 namespace {
@@ -25,20 +41,6 @@ class LookOfTheProgram : public ::testing::Test {
     static QPalette paletteOf(Look look) {
         forms::applyLook(*qApp, look);
         return QApplication::palette();
-    }
-    /// Relative luminance, 0 to 1.
-    static double luminance(const QColor& color) {
-        const auto linear = [](double c) {
-            return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-               0.0722 * linear(color.blueF());
-    }
-    static double contrast(const QPalette& palette, QPalette::ColorRole text,
-                           QPalette::ColorRole ground) {
-        const double a = luminance(palette.color(text)) + 0.05;
-        const double b = luminance(palette.color(ground)) + 0.05;
-        return std::max(a, b) / std::min(a, b);
     }
     QPalette before = QApplication::palette();
 };
@@ -56,33 +58,153 @@ TEST_F(LookOfTheProgram, FollowsTheEnvironment) {
 TEST_F(LookOfTheProgram, LightAndDarkDiffer) {
     const QPalette light = paletteOf(Look::light);
     const QPalette dark = paletteOf(Look::dark);
-    EXPECT_GT(luminance(light.color(QPalette::Window)), 0.7);
-    EXPECT_LT(luminance(dark.color(QPalette::Window)), 0.1);
+    EXPECT_GT(contrast(light.color(QPalette::Window), Qt::black), 15);
+    EXPECT_GT(contrast(dark.color(QPalette::Window), Qt::white), 7);
     EXPECT_FALSE(QApplication::windowIcon().isNull());
 }
 
-TEST_F(LookOfTheProgram, TextCanBeRead) {
-    for (const Look look : {Look::light, Look::dark}) {
+TEST_F(LookOfTheProgram, TextStandsOutFromItsGround) {
+    using P = QPalette;
+    struct Pair {
+        P::ColorRole text;
+        std::vector<P::ColorRole> grounds;
+    };
+    const std::vector<Pair> pairs = {
+        {P::WindowText, {P::Window, P::Base, P::AlternateBase}},
+        {P::Text, {P::Base, P::AlternateBase, P::Window}},
+        {P::ButtonText, {P::Button, P::Window}},
+        {P::PlaceholderText, {P::Base}},
+        {P::ToolTipText, {P::ToolTipBase}},
+        {P::HighlightedText, {P::Highlight}},
+        {P::Link, {P::Base, P::Window}},
+        {P::LinkVisited, {P::Base, P::Window}},
+    };
+    for (const Look look : {Look::light, Look::dark, Look::desktop}) {
         const QPalette palette = paletteOf(look);
-        EXPECT_GE(contrast(palette, QPalette::WindowText, QPalette::Window), 7.0);
-        EXPECT_GE(contrast(palette, QPalette::Text, QPalette::Base), 7.0);
-        EXPECT_GE(contrast(palette, QPalette::ButtonText, QPalette::Button), 7.0);
-        EXPECT_GE(contrast(palette, QPalette::ToolTipText, QPalette::ToolTipBase), 7.0);
-        EXPECT_GE(contrast(palette, QPalette::HighlightedText, QPalette::Highlight), 3.0);
-        EXPECT_NE(palette.color(QPalette::Disabled, QPalette::ButtonText),
-                  palette.color(QPalette::Active, QPalette::ButtonText));
+        for (const auto group : {P::Active, P::Inactive, P::Disabled}) {
+            for (const Pair& pair : pairs) {
+                for (const auto ground : pair.grounds) {
+                    EXPECT_GE(
+                        contrast(palette.color(group, pair.text), palette.color(group, ground)),
+                        kReadable)
+                        << "look " << static_cast<int>(look) << ", group " << group << ": "
+                        << pair.text << " on " << ground;
+                }
+            }
+        }
+        EXPECT_GE(contrast(palette.color(P::WindowText), palette.color(P::Window)), 7.0);
+        EXPECT_NE(palette.color(P::Disabled, P::ButtonText),
+                  palette.color(P::Active, P::ButtonText));
+        EXPECT_EQ(QToolTip::palette().color(P::ToolTipText), palette.color(P::ToolTipText));
+        EXPECT_EQ(QToolTip::palette().color(P::ToolTipBase), palette.color(P::ToolTipBase));
+    }
+}
+
+/// A window with a text of each kind, once as it is and once off.
+class Gallery : public QWidget {
+  public:
+    Gallery() {
+        auto* column = new QVBoxLayout(this);
+        for (const bool on : {true, false}) {
+            auto* half = new QGroupBox(QStringLiteral("Group"));
+            auto* rows = new QVBoxLayout(half);
+            auto* empty = new QLineEdit;
+            empty->setPlaceholderText(QStringLiteral("Placeholder"));
+            auto* link = new QLabel(QStringLiteral("<a href=\"x\">Link</a>"));
+            auto* chosen = new QLineEdit(QStringLiteral("Chosen"));
+            chosen->selectAll();
+            auto* check = new QCheckBox(QStringLiteral("Check"));
+            check->setChecked(true);
+            auto* list = new QComboBox;
+            list->addItem(QStringLiteral("List"));
+            auto* tabs = new QTabBar;
+            tabs->addTab(QStringLiteral("First"));
+            tabs->addTab(QStringLiteral("Second"));
+            auto* rowsOfList = new QListWidget;
+            rowsOfList->setMaximumHeight(60);
+            rowsOfList->addItems({QStringLiteral("Row"), QStringLiteral("Row that is on")});
+            rowsOfList->setCurrentRow(1);
+            auto* bar = new QMenuBar;
+            bar->addAction(QStringLiteral("Entry"))->setEnabled(on);
+            for (QWidget* one : std::initializer_list<QWidget*>{
+                     new QLabel(QStringLiteral("Label")), link,
+                     new QLineEdit(QStringLiteral("Typed")), empty, chosen, check,
+                     new QRadioButton(QStringLiteral("Option")),
+                     new QPushButton(QStringLiteral("Button")),
+                     new forms::WrapButton(QStringLiteral("Wrapped")), list, tabs, rowsOfList,
+                     bar}) {
+                rows->addWidget(one);
+            }
+            half->setEnabled(on);
+            column->addWidget(half);
+        }
+    }
+};
+
+TEST_F(LookOfTheProgram, PaintedTextsCanBeRead) {
+    for (const Look look : {Look::light, Look::dark, Look::desktop}) {
+        SCOPED_TRACE(static_cast<int>(look));
+        paletteOf(look);
+        Gallery gallery;
+        gallery.show();
+        forms::letEventsRun();
+        EXPECT_GE(paintedTexts(gallery).size(), 28U);
+        expectReadable(gallery);
+    }
+}
+
+TEST_F(LookOfTheProgram, EntriesOfAMenuAreDrawnOnceAndCanBeRead) {
+    for (const Look look : {Look::light, Look::dark, Look::desktop}) {
+        SCOPED_TRACE(static_cast<int>(look));
+        paletteOf(look);
+        QMenu menu;
+        menu.addAction(QStringLiteral("On"))->setShortcut(QKeySequence(QStringLiteral("Ctrl+A")));
+        QAction* off = menu.addAction(QStringLiteral("Off"));
+        off->setShortcut(QKeySequence(QStringLiteral("Ctrl+B")));
+        off->setEnabled(false);
+        menu.addAction(QStringLiteral("Under&lined"))->setEnabled(false);
+        menu.popup(QPoint(0, 0));
+        forms::letEventsRun();
+        for (QAction* marked : {static_cast<QAction*>(nullptr), menu.actions().front(), off}) {
+            menu.setActiveAction(marked);
+            QStringList texts;
+            for (const PaintedText& one : paintedTexts(menu)) {
+                texts << one.text;
+            }
+            EXPECT_EQ(texts.count(QStringLiteral("Off")), 1);
+            EXPECT_EQ(texts.count(QStringLiteral("Ctrl+B")), 1);
+            EXPECT_EQ(texts.count(QStringLiteral("On")), 1);
+            expectReadable(menu);
+        }
+        menu.close();
+    }
+}
+
+TEST_F(LookOfTheProgram, ToolTipsCanBeRead) {
+    for (const Look look : {Look::light, Look::dark, Look::desktop}) {
+        paletteOf(look);
+        QWidget owner;
+        owner.show();
+        QToolTip::showText(QPoint(5, 5), QStringLiteral("Locate"), &owner);
+        QWidget* tip = visibleWindow(QStringLiteral("qtooltip_label"));
+        ASSERT_NE(tip, nullptr);
+        EXPECT_FALSE(paintedTexts(*tip).empty());
+        expectReadable(*tip);
+        QToolTip::hideText();
+        EXPECT_TRUE(
+            waitUntil([] { return visibleWindow(QStringLiteral("qtooltip_label")) == nullptr; }));
     }
 }
 
 TEST_F(LookOfTheProgram, ADisabledSliderIsQuieterThanItsText) {
     for (const Look look : {Look::light, Look::dark}) {
         const QPalette palette = paletteOf(look);
-        const double ground = luminance(palette.color(QPalette::Window));
+        const QColor ground = palette.color(QPalette::Window);
         const auto distance = [&](QPalette::ColorRole role) {
-            return std::abs(luminance(palette.color(QPalette::Disabled, role)) - ground);
+            return contrast(palette.color(QPalette::Disabled, role), ground);
         };
         EXPECT_LT(distance(QPalette::Highlight), distance(QPalette::WindowText));
-        EXPECT_GT(distance(QPalette::Highlight), 0.02) << "but it is seen";
+        EXPECT_GT(distance(QPalette::Highlight), 1.2) << "but it is seen";
     }
 }
 
@@ -95,11 +217,10 @@ TEST_F(LookOfTheProgram, TheEdgesOfOptionsAndChecksStandOut) {
              {static_cast<QAbstractButton*>(&option), static_cast<QAbstractButton*>(&check)}) {
             button->resize(button->sizeHint());
             const QImage image = button->grab().toImage();
-            const double ground = luminance(palette.color(QPalette::Window)) + 0.05;
             double most = 1;
             for (int x = 0; x < image.width(); ++x) {
-                const double seen = luminance(image.pixelColor(x, image.height() / 2)) + 0.05;
-                most = std::max(most, std::max(seen, ground) / std::min(seen, ground));
+                most = std::max(most, contrast(image.pixelColor(x, image.height() / 2),
+                                               palette.color(QPalette::Window)));
             }
             EXPECT_GE(most, look == Look::dark ? 2.5 : 1.5) << button->metaObject()->className();
         }

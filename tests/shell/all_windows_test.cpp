@@ -1,11 +1,13 @@
 // What holds for every window: its controls bear their names, can be read aloud, fit the screen,
-// show their texts whole and are reached by the keyboard. A picture of each window in both palettes
+// show their texts whole, can be read and are reached by the keyboard. A picture of each window in both palettes
 // is left in the folder window-pictures of the build.
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QProcess>
 #include <QPushButton>
 #include <QScrollBar>
@@ -18,6 +20,7 @@
 #include "resources/path_text.h"
 #include "shell/splash.h"
 #include "support/windows/shell_fixture.h"
+#include "support/windows/text_contrast.h"
 #include "support/windows/window_checks.h"
 
 namespace quorvel::test {
@@ -58,6 +61,7 @@ class AllWindows : public ShellFixture, public ::testing::WithParamInterface<Loo
         expectNames(window);
         expectFits(window);
         expectNoCutText(window);
+        expectReadable(window);
         expectTabReachesAll(window);
     }
     /// Checks the window `name`, which the menu entry `entry` opens.
@@ -107,6 +111,7 @@ TEST_P(AllWindows, Splash) {
     picture(splash, QStringLiteral("InitQV"));
     expectFits(splash);
     expectNoCutText(splash);
+    expectReadable(splash);
 }
 
 TEST_P(AllWindows, MainWithoutAProject) {
@@ -175,7 +180,24 @@ TEST_P(AllWindows, OpeningAProject) {
             expectNames(window);
             expectFits(window);
             expectNoCutText(window);
+            expectReadable(window);
         });
+}
+
+TEST_P(AllWindows, Menus) {
+    start({text(someProject().projectPath())}, {1280, 800});
+    for (QAction* head : main().menuBar()->actions()) {
+        QMenu* menu = head->menu();
+        if (menu == nullptr) {
+            continue;
+        }
+        menu->popup(QPoint(0, 0));
+        forms::letEventsRun();
+        picture(*menu, QStringLiteral("Menu-") + menu->objectName());
+        EXPECT_FALSE(paintedTexts(*menu).empty());
+        expectReadable(*menu);
+        menu->close();
+    }
 }
 
 TEST_P(AllWindows, ProjectSecurity) {
