@@ -4,11 +4,9 @@
 #include <utility>
 
 #include <QBoxLayout>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QShowEvent>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -117,17 +115,6 @@ void Form::letContentScroll() {
     if (keyboard != nullptr) {
         keyboard->setFocus();
     }
-}
-
-void Form::keyPressEvent(QKeyEvent* event) {
-    if (scroll_ != nullptr &&
-        (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown)) {
-        scroll_->verticalScrollBar()->triggerAction(event->key() == Qt::Key_PageUp
-                                                        ? QAbstractSlider::SliderPageStepSub
-                                                        : QAbstractSlider::SliderPageStepAdd);
-        return;
-    }
-    QDialog::keyPressEvent(event);
 }
 
 QVBoxLayout* Form::makeColumn() {

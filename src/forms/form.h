@@ -42,8 +42,6 @@ class Form : public QDialog {
   protected:
     bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    /// Page Up and Page Down scroll.
-    void keyPressEvent(QKeyEvent* event) override;
 
     /// The column that a window's groups stand in, from top to bottom.
     QVBoxLayout* makeColumn();

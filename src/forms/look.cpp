@@ -11,6 +11,7 @@
 #include <QToolTip>
 
 #include "forms/legible.h"
+#include "forms/manners.h"
 
 // Resources of a static library are not found until they are named; the macro wants the global
 // namespace.
@@ -86,6 +87,12 @@ class OutlinedStyle : public QProxyStyle {
   public:
     OutlinedStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override {
+        QProxyStyle::polish(widget);
+        manners_.teach(*widget);
+    }
+
     /// Boxes and dialogs have the buttons of all other windows: without pictures, what goes on at
     /// the left of what goes back.
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -125,6 +132,9 @@ class OutlinedStyle : public QProxyStyle {
         }
         painter->restore();
     }
+
+  private:
+    Manners manners_;
 };
 
 QPixmap faded(const QPixmap& pixmap) {

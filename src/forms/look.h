@@ -13,7 +13,7 @@ enum class Look { desktop, light, dark };
 /// The look that the environment asks for by QUORVEL_LOOK ("light" or "dark"), else the desktop's.
 Look lookFromEnvironment();
 
-/// Gives the application its style and palette. Call it once, before the first window. The
+/// Gives the application its style, palette and manners. Call it once, before the first window. The
 /// desktop's palette is taken over as far as its texts can be read.
 void applyLook(QApplication& application, Look look);
 

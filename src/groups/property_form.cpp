@@ -1,6 +1,5 @@
 #include "groups/property_form.h"
 
-#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QShowEvent>
@@ -64,11 +63,6 @@ void PropertyForm::addButtons(const Buttons& names, const std::function<void()>&
 
 void PropertyForm::showEvent(QShowEvent* event) {
     if (!FormLoaded && !event->spontaneous()) {
-        for (QComboBox* list : findChildren<QComboBox*>()) {
-            list->setFocusPolicy(Qt::StrongFocus);  // a wheel does not give it the keyboard
-            list->removeEventFilter(this);
-            list->installEventFilter(this);
-        }
         sheet_.load([this] { filled(); });
         Q_EMIT sheet_.activated();
         FormLoaded = true;
@@ -92,15 +86,6 @@ bool PropertyForm::event(QEvent* event) {
         Q_EMIT sheet_.activated();
     }
     return Form::event(event);
-}
-
-bool PropertyForm::eventFilter(QObject* watched, QEvent* event) {
-    const auto* list = qobject_cast<QComboBox*>(watched);
-    if (list != nullptr && event->type() == QEvent::Wheel && !list->hasFocus()) {
-        event->ignore();
-        return true;
-    }
-    return Form::eventFilter(watched, event);
 }
 
 bool PropertyForm::SaveProps() {

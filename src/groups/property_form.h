@@ -66,8 +66,6 @@ class PropertyForm : public forms::Form {
     /// Turns to the page of a control that has to be corrected and gives it the keyboard.
     void lead(QWidget& control);
 
-    /// Lists without the keyboard are left alone by a wheel that is turned over them in passing.
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     bool event(QEvent* event) override;
 

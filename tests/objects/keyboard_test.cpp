@@ -51,18 +51,18 @@ TEST_F(Keyboard, HotSpot) {
     store::word(hotSpot, HotSpot::FailureSound) = "a.wav";
     main().view().ShowObject(1);
     editObject(1, QStringLiteral("linkPropf"), [](const Hand& hand) {
-        EXPECT_EQ(stops(hand, "Pages"),
-                  QStringLiteral("Pages Text1 Command7 Option4(1) Text2(0) Text2(1) Option1(1) "
-                                 "Option3(1) FlagID(0) Combo2 Text3(0) Option2(1) LnkScn "
-                                 "Combo1(1) Check5 Combo3 Check3 FlagID(1) Text3(1) Check4 "
-                                 "Command6 Command3 Command5"));
+        EXPECT_EQ(
+            stops(hand, "Pages"),
+            QStringLiteral("Pages Command7 Option4(1) Text2(0) Text2(1) Option1(1) Option3(1) "
+                           "FlagID(0) Combo2 Text3(0) Option2(1) LnkScn Combo1(1) Check5 "
+                           "Combo3 Check3 FlagID(1) Text3(1) Check4 Command6 Command3 "
+                           "Command5"));
         hand.turnTo(1);
         EXPECT_EQ(stops(hand, "Pages"),
-                  QStringLiteral("Pages SE(1) LSE(1) Playwav(1) sChannelNum(1) Hscroll1(1) "
-                                 "Hscroll2(1) HLeft(1) Centr(1) HRight(1) SE(2) LSE(2) Check1 "
-                                 "Combo Check2 SE(3) LSE(3) Playwav(3) sChannelNum(3) Hscroll1(3) "
-                                 "Hscroll2(3) HLeft(3) Centr(3) HRight(3) Command6 Command3 "
-                                 "Command5"));
+                  QStringLiteral("Pages LSE(1) Playwav(1) sChannelNum(1) Hscroll1(1) Hscroll2(1) "
+                                 "HLeft(1) Centr(1) HRight(1) LSE(2) Check1 Combo Check2 LSE(3) "
+                                 "Playwav(3) sChannelNum(3) Hscroll1(3) Hscroll2(3) HLeft(3) "
+                                 "Centr(3) HRight(3) Command6 Command3 Command5"));
     });
 }
 
@@ -71,15 +71,16 @@ TEST_F(Keyboard, Scene) {
     scene().header(HeaderString::SceneSoundtrack) = "c.mp3";
     scene().header(HeaderString::SceneSound3File) = "a.wav";
     editScene([](const Hand& hand) {
-        EXPECT_EQ(stops(hand, "Pages"),
-                  QStringLiteral("Pages Text2 Text1 Command3 Check2 FlagID(0) Combo2 Text3(0) tags "
-                                 "Check1 FlagID(1) Text3(1) Check3 Command4 Command2 Command5"));
+        EXPECT_EQ(
+            stops(hand, "Pages"),
+            QStringLiteral("Pages Text2 Command3 Check2 FlagID(0) Combo2 Text3(0) tags Check1 "
+                           "FlagID(1) Text3(1) Check3 Command4 Command2 Command5"));
         hand.turnTo(1);
         EXPECT_EQ(stops(hand, "Pages"),
-                  QStringLiteral("Pages MEN(4) LME(4) Playmov(4) Hscroll1(4) MEN(5) LME(5) "
-                                 "MidiFile locatebutton(1) PlayMidfile Hscroll1(0) SE(1) LSE(1) "
-                                 "SE(2) LSE(2) SE(3) LSE(3) Playwav(3) Hscroll1(3) Hscroll2(3) "
-                                 "HLeft(3) Centr(3) HRight(3) Command4 Command2 Command5"));
+                  QStringLiteral("Pages LME(4) Playmov(4) Hscroll1(4) LME(5) locatebutton(1) "
+                                 "PlayMidfile Hscroll1(0) LSE(1) LSE(2) LSE(3) Playwav(3) "
+                                 "Hscroll1(3) Hscroll2(3) HLeft(3) Centr(3) HRight(3) Command4 "
+                                 "Command2 Command5"));
     });
 }
 
