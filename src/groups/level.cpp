@@ -3,23 +3,22 @@
 #include <QSignalBlocker>
 #include <QStyleOptionSlider>
 #include <QStylePainter>
-#include <QWheelEvent>
 
 #include "store/numbers.h"
 
 namespace quorvel::groups {
 namespace {
 
-/// Left alone by a wheel that is turned over it in passing. One that goes to both sides of 0 shows
-/// no amount: its groove is the same on both sides.
-class CalmSlider : public QSlider {
+/// One that goes to both sides of 0 shows no amount, and one that is off none either: its groove is
+/// the same on both sides of the handle.
+class AmountSlider : public QSlider {
   public:
-    CalmSlider(bool bothSides, QWidget* parent)
+    AmountSlider(bool bothSides, QWidget* parent)
         : QSlider(Qt::Horizontal, parent), bothSides_(bothSides) {}
 
   protected:
     void paintEvent(QPaintEvent* event) override {
-        if (!bothSides_) {
+        if (!bothSides_ && isEnabled()) {
             QSlider::paintEvent(event);
             return;
         }
@@ -29,6 +28,7 @@ class CalmSlider : public QSlider {
         QStyleOptionSlider groove = option;
         groove.subControls = QStyle::SC_SliderGroove;
         groove.sliderPosition = groove.sliderValue = minimum();  // styles fill what is before it
+        painter.setOpacity(isEnabled() ? 1.0 : kOff);
         painter.drawComplexControl(QStyle::CC_Slider, groove);
         option.subControls = QStyle::SC_SliderHandle;
         if (isSliderDown()) {
@@ -37,15 +37,9 @@ class CalmSlider : public QSlider {
         }
         painter.drawComplexControl(QStyle::CC_Slider, option);
     }
-    void wheelEvent(QWheelEvent* event) override {
-        if (hasFocus()) {
-            QSlider::wheelEvent(event);
-        } else {
-            event->ignore();
-        }
-    }
 
   private:
+    static constexpr double kOff = 0.6;
     bool bothSides_;
 };
 
@@ -54,7 +48,7 @@ class CalmSlider : public QSlider {
 Level::Level(const QString& slider, const QString& box, const QString& spoken,
              const LevelRange& range, QWidget* parent)
     : QObject(parent),
-      slider_(new CalmSlider(range.lowest < 0 && range.highest > 0, parent)),
+      slider_(new AmountSlider(range.lowest < 0 && range.highest > 0, parent)),
       box_(new QLineEdit(parent)) {
     slider_->setObjectName(slider);
     slider_->setAccessibleName(spoken);
@@ -101,6 +95,15 @@ void Level::setRange(const LevelRange& range) {
     slider_->setPageStep(range.tick);
     slider_->setSingleStep(range.tick >= 100 ? range.tick / 8 : 1);
     box_->setToolTip(QString::fromLatin1(range.toolTip));
+}
+
+void Level::setLive(bool live) {
+    QPalette palette;  // of the application again
+    if (live) {
+        palette.setColor(QPalette::Disabled, QPalette::Text,
+                         box_->palette().color(QPalette::Active, QPalette::Text));
+    }
+    box_->setPalette(palette);
 }
 
 void Level::setEnabled(bool enabled) {

@@ -43,6 +43,8 @@ class Level : public QObject {
     /// A value outside the new range is left for the nearest one in it.
     void setRange(const LevelRange& range);
     void setEnabled(bool enabled);
+    /// The box is off and bears the full colour of a text all the same: its value counts.
+    void setLive(bool live);
 
   Q_SIGNALS:
     /// The value has changed, by whom ever.

@@ -151,6 +151,8 @@ void SoundSpec::followFile() {
     } else if (pan->slider()->maximum() < kPan.highest) {
         pan->setRange(kPan);
     }
+    volume->setLive(any);
+    pan->setLive(any);
     volume->slider()->setEnabled(any);
     pan->slider()->setEnabled(wav);
     for (QPushButton* button : panButtons_) {

@@ -57,6 +57,30 @@ TEST_F(Levels, AValueOutsideTheRangeIsShownAndStaysWhenAnotherFieldIsSaved) {
     EXPECT_EQ(pan(), -32768);
 }
 
+TEST_F(Levels, NumbersOfASoundAreOffAndInFullColourWhileThereIsAFile) {
+    const auto colourOf = [](const Hand& hand, const char* name) {
+        const QLineEdit& box = hand.box(name);
+        EXPECT_FALSE(box.isEnabled()) << name;
+        return box.palette().color(QPalette::Disabled, QPalette::Text);
+    };
+    const QColor full = QApplication::palette().color(QPalette::Active, QPalette::Text);
+    const QColor quiet = QApplication::palette().color(QPalette::Disabled, QPalette::Text);
+    ASSERT_NE(full, quiet);
+    putSound("a.wav", -400);
+    edit([&](const Hand& hand) {
+        for (const char* name : {"SV(1)", "SP(1)"}) {
+            EXPECT_EQ(colourOf(hand, name), full) << name;
+        }
+        for (const char* name : {"SV(2)", "SP(2)"}) {
+            EXPECT_EQ(colourOf(hand, name), quiet) << name << ": no file";
+        }
+        hand.doubleClick("SE(1)");
+        for (const char* name : {"SV(1)", "SP(1)"}) {
+            EXPECT_EQ(colourOf(hand, name), quiet) << name << ": the file was taken away";
+        }
+    });
+}
+
 TEST_F(Levels, AMovedSliderStoresWhereItStands) {
     putSound("a.wav", 500, 9000);
     edit([](const Hand& hand) {
