@@ -16,12 +16,14 @@ constexpr std::array kPages = {
     HelpPage{HelpTopic::Projects, "projects.html", "Projects and their folders", kBegin},
     HelpPage{HelpTopic::NewProject, "new-project.html", "New Project", kBegin},
     HelpPage{HelpTopic::OpenProj, "open-project.html", "Opening and closing", kBegin},
+    HelpPage{HelpTopic::Backup, "backup.html", "Backup and export", kBegin},
     HelpPage{HelpTopic::Tips, "tips.html", "Tips and help", kBegin},
 
     HelpPage{HelpTopic::Main, "main-window.html", "Menus and tool bar", kMain},
     HelpPage{HelpTopic::Canvas, "canvas.html", "Working on a scene", kMain},
     HelpPage{HelpTopic::Moving, "moving.html", "From scene to scene", kMain},
     HelpPage{HelpTopic::TestRun, "test-run.html", "The test run", kMain},
+    HelpPage{HelpTopic::Shortcuts, "shortcuts.html", "Keyboard shortcuts", kMain},
 
     HelpPage{HelpTopic::NewScenefrm, "add-scene.html", "Add New Scene", kWindows},
     HelpPage{HelpTopic::sceneimage, "scene-properties.html", "Scene Properties", kWindows},

@@ -17,6 +17,7 @@ enum class HelpTopic : int {
     Flags = 22,
     SoundsAndMovies = 23,
     Words = 24,
+    Backup = 25,
 
     // The main window and what it opens
     Main = 30,
@@ -24,6 +25,7 @@ enum class HelpTopic : int {
     Moving = 32,
     TestRun = 33,
     Tips = 34,
+    Shortcuts = 35,
 
     // A window each
     NewProject = 40,

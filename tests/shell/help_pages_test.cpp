@@ -19,6 +19,7 @@
 #include <QRegularExpression>
 #include <QTest>
 #include <QTextBrowser>
+#include <QTextDocumentFragment>
 #include <QTimer>
 
 #include "forms/file_choice.h"
@@ -164,6 +165,32 @@ TEST(HelpPages, TheSearchFindsWhatAnAuthorAsksFor) {
     EXPECT_EQ(first("incoming"), "files.html");
     EXPECT_EQ(first("a word that is nowhere xyzzy"), "nothing");
     EXPECT_EQ(pages.search(QStringLiteral("the")).size(), forms::helpPages().size());
+
+    // What authors bring from elsewhere and may miss: the page says what there is instead.
+    struct Answer {
+        const char* question;
+        const char* page;
+        std::initializer_list<const char*> says;
+    };
+    for (const Answer& one : std::initializer_list<Answer>{
+             {"PNG", "sounds.html", {"BMP, GIF, JPG", "save them as JPG for a scene"}},
+             {"ogg", "sounds.html", {"save them as WAV for a sound effect", "MP3, WAV, MID"}},
+             {"shortcut", "shortcuts.html", {"Ctrl+A", "Ctrl+X", "F1", "Ctrl+Tab", "Shift+F10"}},
+             {"shortcuts", "shortcuts.html", {}},
+             {"zoom", "canvas.html", {"There is no zoom", "by one pixel"}},
+             {"export", "backup.html", {"there is no export", "what you hand on"}},
+             {"backup", "backup.html", {"Copy the whole folder", "To go back"}},
+             {"undo", "projects.html", {"There is no general undo", "Cancel", "Escape"}}}) {
+        SCOPED_TRACE(one.question);
+        EXPECT_EQ(first(one.question), one.page);
+        const HelpPage* page = forms::helpPage(QString::fromLatin1(one.page));
+        ASSERT_NE(page, nullptr);
+        const QString text =
+            QTextDocumentFragment::fromHtml(htmlOf(*page)).toPlainText().simplified();
+        for (const char* words : one.says) {
+            EXPECT_TRUE(text.contains(QString::fromLatin1(words))) << words;
+        }
+    }
 }
 
 // The Help buttons
