@@ -4,6 +4,8 @@
 #include <string_view>
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QMenu>
 #include <QWindow>
 
@@ -105,6 +107,7 @@ void menus::build() {
     for (const MenuRow& row : kMenus) {
         auto* menu = new QMenu(QString::fromLatin1(row.header), this);
         menu->setObjectName(QString::fromLatin1(row.name));
+        menu->installEventFilter(this);
         menus_[row.menu] = menu;
     }
     for (const EntryRow& row : kEntries) {
@@ -160,10 +163,20 @@ void menus::prepareJump(PopupMenu which, PopupAction jump, const QString& scene)
     action->setEnabled(!scene.isEmpty());
 }
 
-void menus::setAvailable(PopupMenu which, PopupAction entry, bool available) {
+void menus::setAvailable(PopupMenu which, PopupAction entry, bool available,
+                         const QString& whyOff) {
     if (QAction* action = entryOf(which, entry)) {
         action->setEnabled(available);
+        action->setStatusTip(available ? QString() : whyOff);
     }
+}
+
+bool menus::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::StatusTip || parentWidget() == nullptr) {
+        return QWidget::eventFilter(watched, event);
+    }
+    QCoreApplication::sendEvent(parentWidget(), event);
+    return true;
 }
 
 }  // namespace quorvel::canvas

@@ -62,8 +62,14 @@ class menus : public QWidget {  // NOLINT(readability-identifier-naming): the wi
     /// Caption and state of a jump entry: the text of the scene it leads to, empty for none.
     void prepareJump(PopupMenu which, PopupAction jump, const QString& scene);
 
-    /// Enables the entries that somebody answers. Jumps follow `prepareJump`.
-    void setAvailable(PopupMenu which, PopupAction entry, bool available);
+    /// Enables the entries that somebody answers. Jumps follow `prepareJump`. `whyOff` is what the
+    /// status line says of an entry that is off.
+    void setAvailable(PopupMenu which, PopupAction entry, bool available,
+                      const QString& whyOff = {});
+
+  protected:
+    /// What a menu says in the status line belongs to the window that it was opened in.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   Q_SIGNALS:
     void chosen(quorvel::canvas::PopupMenu menu, quorvel::canvas::PopupAction entry);

@@ -10,6 +10,7 @@
 #include "canvas/insert_form.h"
 #include "canvas/object_kinds.h"
 #include "canvas/resize_form.h"
+#include "canvas/texts.h"
 
 namespace quorvel::canvas {
 
@@ -95,7 +96,9 @@ void ObjectActions::openObjectMenu(int k, QPoint screen) {
     const PopupMenu menu = menuOf(type);
     prepareObjectJumps(slot, menu);
     const bool stored = house_.project.currentSceneStored();
-    menus_.setAvailable(menu, PopupAction::properties, stored && editors_.contains(type));
+    const bool edited = editors_.contains(type);
+    menus_.setAvailable(menu, PopupAction::properties, stored && edited,
+                        edited ? QString() : windowToCome());
     menus_.setAvailable(menu, PopupAction::remove, stored);
     menus_.open(menu, screen, house_.view.window()->windowHandle());
 }

@@ -26,6 +26,10 @@ QString directionName(store::LinkSide side) {
     return QStringLiteral("Down");
 }
 
+QString windowToCome() {
+    return QStringLiteral("This window is not part of this version yet.");
+}
+
 forms::Box sceneSizeAlert(QSize size) {
     return {.text = QStringLiteral("The dimensions of the image file for this scene are incorrect."
                                    "\nAs a result, it may not appear correctly in the game."

@@ -28,6 +28,9 @@ struct StatusText {
 /// "Left", "Up", "Right" or "Down".
 [[nodiscard]] QString directionName(store::LinkSide side);
 
+/// What the status line says of an entry whose window nobody has built yet.
+[[nodiscard]] QString windowToCome();
+
 /// The box behind the scene size alert. `size` is that of the scene's picture, in pixels.
 [[nodiscard]] forms::Box sceneSizeAlert(QSize size);
 

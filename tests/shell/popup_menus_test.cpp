@@ -155,6 +155,7 @@ TEST_F(PopupMenus, EachTypeOpensItsOwn) {
         EXPECT_EQ(entries.front()->isEnabled(),
                   static_cast<store::ObjectType>(type) == store::ObjectType::hotSpot)
             << "no other type has a window yet: " << type;
+        EXPECT_EQ(entries.front()->statusTip().isEmpty(), entries.front()->isEnabled());
         EXPECT_TRUE(entries.back()->isEnabled());
         EXPECT_TRUE(entries[entries.size() - 3]->isEnabled()) << "removal";
     }
