@@ -26,7 +26,8 @@ void AuthorGuide::ShowHelp(forms::HelpTopic topic) {
     if (!help_ || help_->folder() != folder) {
         help_ = std::make_unique<HelpWindow>(
             folder,
-            HelpWindow::House{house_.boxes, [this](const QString& address) { OpenUrl(address); }});
+            HelpWindow::House{house_.boxes, [this](const QString& address) { OpenUrl(address); },
+                              &house_.main});
     }
     const forms::HelpPage* page = forms::helpPage(topic);
     help_->showPage(page != nullptr ? *page : forms::helpPages().front());

@@ -9,11 +9,11 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QTextBlock>
-#include <QTextBrowser>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -23,14 +23,22 @@
 
 #include "forms/form.h"
 #include "forms/look.h"
+#include "shell/help_browser.h"
 #include "shell/result_delegate.h"
+#include "shell/window_place.h"
 
 namespace quorvel::shell {
 namespace {
 
 constexpr QSize kSize(784, 540);
+/// The narrowest that shows a page with its pictures; below the second width the contents stand
+/// above the page and not beside it, which takes height.
+constexpr QSize kLeast(540, 420);
+constexpr int kNarrow = 700;
+constexpr int kNarrowHeight = 720;
+constexpr int kIndentation = 14;
 /// Indentation, scroll bar and frame beside a title of the contents.
-constexpr int kBesideTitle = 60;
+constexpr int kBesideTitle = 2 * kIndentation + 30;
 constexpr int kIconSize = 20;
 constexpr int kRowPadding = 4;
 constexpr int kFileRole = Qt::UserRole;
@@ -46,18 +54,13 @@ HelpWindow::HelpWindow(const QString& folder, House house)
                                forms::kFormSpacing);
     column->setSpacing(forms::kFormSpacing);
     column->addWidget(buildBar());
-    auto* splitter = new QSplitter(this);
-    splitter->setChildrenCollapsible(false);
-    splitter->addWidget(buildContents());
-    splitter->addWidget(buildPage());
-    splitter->setStretchFactor(1, 1);
-    int left = 0;
-    for (const forms::HelpPage& page : forms::helpPages()) {
-        left = std::max(left, fontMetrics().horizontalAdvance(QString::fromLatin1(page.title)));
-    }
-    left += kBesideTitle;
-    splitter->setSizes({left, kSize.width() - left});
-    column->addWidget(splitter, 1);
+    splitter_ = new QSplitter(this);
+    splitter_->setChildrenCollapsible(false);
+    splitter_->addWidget(buildContents());
+    splitter_->addWidget(buildPage());
+    splitter_->setStretchFactor(1, 1);
+    column->addWidget(splitter_, 1);
+    divide();
     addShortcuts();
     resize(kSize.boundedTo(screen()->availableSize() - forms::kFrameRoom));
 }
@@ -110,6 +113,7 @@ QWidget* HelpWindow::buildContents() {
     contents_->setAccessibleName(QStringLiteral("Contents"));
     contents_->setHeaderHidden(true);
     contents_->setRootIsDecorated(true);
+    contents_->setIndentation(kIndentation);
     const QSize rowSize(0, fontMetrics().height() + kRowPadding);
     QTreeWidgetItem* group = nullptr;
     for (const forms::HelpPage& page : forms::helpPages()) {
@@ -146,7 +150,7 @@ QWidget* HelpWindow::buildContents() {
 }
 
 QWidget* HelpWindow::buildPage() {
-    page_ = new QTextBrowser(this);
+    page_ = new HelpBrowser(this);
     page_->setObjectName(QStringLiteral("Page"));
     page_->setAccessibleName(QStringLiteral("Page"));
     page_->setOpenLinks(false);
@@ -180,6 +184,28 @@ void HelpWindow::addShortcuts() {
     });
 }
 
+/// The contents take the width of their longest title, or the upper part of a narrow window.
+void HelpWindow::divide() {
+    int left = kBesideTitle;
+    for (const forms::HelpPage& page : forms::helpPages()) {
+        left = std::max(
+            left, kBesideTitle + fontMetrics().horizontalAdvance(QString::fromLatin1(page.title)));
+    }
+    const bool beside = splitter_->orientation() == Qt::Horizontal;
+    const int all = beside ? kSize.width() : kNarrowHeight;
+    const int first = beside ? left : kNarrowHeight / 4;
+    splitter_->setSizes({first, all - first});
+}
+
+void HelpWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    const Qt::Orientation wanted = width() < kNarrow ? Qt::Vertical : Qt::Horizontal;
+    if (splitter_->orientation() != wanted) {
+        splitter_->setOrientation(wanted);
+        divide();
+    }
+}
+
 void HelpWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape) {
         QWidget::keyPressEvent(event);
@@ -198,6 +224,7 @@ void HelpWindow::showPage(const forms::HelpPage& page) {
     if (isMinimized()) {
         showNormal();
     }
+    standAside();
     show();
     raise();
     activateWindow();
@@ -309,6 +336,38 @@ bool HelpWindow::event(QEvent* event) {
         QTimer::singleShot(0, this, &HelpWindow::standBesideModalWindow);
     }
     return QWidget::event(event);
+}
+
+/// Opens beside the window that it is about; where the author has moved it, it stays.
+void HelpWindow::standAside() {
+    QWidget* modal = QApplication::activeModalWidget();
+    QWidget* other = modal != nullptr ? modal : house_.main;
+    if (other == nullptr || !other->isVisible() || (isVisible() && other == aside_)) {
+        return;
+    }
+    const QRect screen = other->screen()->availableGeometry();
+    const QRect theirs = other->frameGeometry();
+    const QSize frame = theirs.size() - other->size();  // ours is unknown before the first time
+    if (isVisible() && aside_ != nullptr && screen.contains(frameGeometry().center()) &&
+        !frameGeometry().intersects(theirs)) {
+        aside_ = other;
+        return;
+    }
+    aside_ = other;
+    QSize wanted = kSize + frame;
+    const auto place = [&] {
+        return placeBeside(theirs, wanted, kLeast + frame, screen, modal != nullptr);
+    };
+    Places places = place();
+    if (places.beside.width() < kNarrow) {
+        wanted.setHeight(kNarrowHeight + frame.height());
+        places = place();
+    }
+    if (places.other != theirs) {
+        other->move(places.other.topLeft());
+    }
+    resize(places.beside.size() - frame);
+    move(places.beside.topLeft());
 }
 
 void HelpWindow::standBesideModalWindow() {

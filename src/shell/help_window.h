@@ -11,8 +11,8 @@
 
 class QLineEdit;
 class QListWidget;
+class QSplitter;
 class QStackedWidget;
-class QTextBrowser;
 class QToolButton;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -21,8 +21,11 @@ class QVBoxLayout;
 
 namespace quorvel::shell {
 
-/// Stands beside the other windows and is usable while a modal window is open: it counts as that
-/// window's child then.
+class HelpBrowser;
+
+/// Opens beside the window that it is asked from, on the same screen, covering none of it where the
+/// screen has the room. Stands beside the other windows and is usable while a modal window is open:
+/// it counts as that window's child then.
 ///
 /// Data flow: contents, results, links and topics all end in `open`; the page's address tells the
 /// contents and the title what is on show.
@@ -32,6 +35,7 @@ class HelpWindow : public QWidget {
     struct House {
         forms::Boxes& boxes;
         std::function<void(const QString&)> openUrl;  ///< for addresses of the web
+        QWidget* main = nullptr;                      ///< beside which it opens
     };
     /// `folder` holds the pages, with a separator at its end.
     HelpWindow(const QString& folder, House house);
@@ -46,6 +50,7 @@ class HelpWindow : public QWidget {
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     QWidget* buildBar();
@@ -60,6 +65,8 @@ class HelpWindow : public QWidget {
     void search(const QString& question);
     void openResult(int row);
     void markWords();
+    void divide();
+    void standAside();
     void standBesideModalWindow();
     void leaveModalWindow();
 
@@ -68,11 +75,13 @@ class HelpWindow : public QWidget {
     QToolButton* back_ = nullptr;
     QToolButton* forward_ = nullptr;
     QLineEdit* question_ = nullptr;
+    QSplitter* splitter_ = nullptr;
     QStackedWidget* left_ = nullptr;
     QTreeWidget* contents_ = nullptr;
     QListWidget* results_ = nullptr;
-    QTextBrowser* page_ = nullptr;
+    HelpBrowser* page_ = nullptr;
     QPointer<QWidget> modal_;  ///< the window that this one counts as a child of
+    QPointer<QWidget> aside_;  ///< the window that this one was put beside
 };
 
 }  // namespace quorvel::shell

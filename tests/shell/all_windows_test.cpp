@@ -1,6 +1,6 @@
 // What holds for every window: its controls bear their names, can be read aloud, fit the screen,
-// show their texts whole, can be read and are reached by the keyboard. A picture of each window in both palettes
-// is left in the folder window-pictures of the build.
+// show their texts whole, can be read and are reached by the keyboard. A picture of each window in
+// both palettes is left in the folder window-pictures of the build.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QProcess>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabBar>
@@ -17,8 +16,8 @@
 #include "forms/events.h"
 #include "forms/intake_boxes.h"
 #include "forms/look.h"
-#include "resources/path_text.h"
 #include "shell/splash.h"
+#include "support/windows/other_screen.h"
 #include "support/windows/shell_fixture.h"
 #include "support/windows/text_contrast.h"
 #include "support/windows/window_checks.h"
@@ -420,27 +419,10 @@ INSTANTIATE_TEST_SUITE_P(Looks, AllEditors, ::testing::Values(Look::light, Look:
 /// pixels, each of them `scale` device pixels wide.
 void expectPassWith(const char* variable, const char* value, QSize screen = {1600, 1200},
                     int scale = 1, const char* filter = "Looks/All*") {
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QString::fromLatin1(variable), QString::fromLatin1(value));
-    environment.insert(QStringLiteral("QUORVEL_SCALED"), QString::fromLatin1(variable));
-    const TempFolder folder;
-    writeBytes(folder / "screen.json",
-               QStringLiteral(R"({"screens": [{"name": "one", "x": 0, "y": 0, "width": %1,
-                   "height": %2, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": %3}]})")
-                   .arg(QString::number(screen.width()), QString::number(screen.height()),
-                        QString::number(scale))
-                   .toStdString());
-    environment.insert(
-        QStringLiteral("QT_QPA_PLATFORM"),
-        QStringLiteral("offscreen:configfile=") + resources::pathText(folder / "screen.json"));
-    process.setProcessEnvironment(environment);
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("--gtest_filter=") + QString::fromLatin1(filter)});
-    ASSERT_TRUE(process.waitForFinished(100000));
-    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-    EXPECT_EQ(process.exitCode(), 0) << process.readAll().toStdString();
+    expectTestsPass(QString::fromLatin1(filter), screen,
+                    {{QString::fromLatin1(variable), QString::fromLatin1(value)},
+                     {QStringLiteral("QUORVEL_SCALED"), QString::fromLatin1(variable)}},
+                    scale);
 }
 
 TEST(AllWindowsScaled, PassAtDoubleScale) {

@@ -108,8 +108,10 @@ TEST(HelpPages, EachPageIsReachedByLinksFromTheFirst) {
 }
 
 TEST(HelpPages, EachPictureIsThereFitsAndIsUsed) {
-    constexpr int kWidest = 480;
-    constexpr int kLargest = 140 * 1024;
+    // Two pixels for each on the page, so that they are sharp on a screen of double scale.
+    constexpr int kWidest = 2 * 480;
+    constexpr int kLargest = 400 * 1024;
+    bool sharp = false;
     std::set<QString> used;
     for (const HelpPage& page : forms::helpPages()) {
         const QString html = htmlOf(page);
@@ -123,12 +125,15 @@ TEST(HelpPages, EachPictureIsThereFitsAndIsUsed) {
             const QImage image(pagesOfTheSource().filePath(picture));
             EXPECT_FALSE(image.isNull()) << page.file << ": " << picture.toStdString();
             EXPECT_LE(image.width(), kWidest) << picture.toStdString();
+            EXPECT_EQ(image.width() % 2 + image.height() % 2, 0) << picture.toStdString();
+            sharp = sharp || image.width() == kWidest;
             EXPECT_LE(QFileInfo(pagesOfTheSource().filePath(picture)).size(), kLargest)
                 << picture.toStdString();
             used.insert(picture);
         }
     }
     EXPECT_GE(used.size(), 8U);
+    EXPECT_TRUE(sharp) << "they have half of their pixels";
     const QDir folder(pagesOfTheSource().filePath(QStringLiteral("pictures")));
     for (const QString& file : folder.entryList(QDir::Files)) {
         EXPECT_TRUE(used.contains(QStringLiteral("pictures/") + file)) << file.toStdString();

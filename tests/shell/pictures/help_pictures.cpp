@@ -21,24 +21,28 @@
 namespace quorvel::test {
 namespace {
 
-/// As wide as the page in the help window.
+/// As wide as the page in the help window, in its pixels; a picture has two for each.
 constexpr int kWidest = 480;
+constexpr int kPixels = 2;
 /// The quality at which a PNG file is packed best.
 constexpr int kSmallest = 0;
 /// As many colours as an image with a table of them takes.
 constexpr std::size_t kColours = 256;
 
-/// `window` with its letters drawn in the size that they have on the page, which is sharper than
-/// letters that are made smaller afterwards.
-QImage pictureOf(QWidget& window) {
-    const double scale = std::min(1.0, static_cast<double>(kWidest) / window.width());
-    QImage picture((QSizeF(window.size()) * scale).toSize(), QImage::Format_RGB32);
+/// `area` of `window`, whole where none is given, with its letters drawn in the size that they have
+/// in the picture, which is sharper than letters that are made larger or smaller afterwards.
+QImage pictureOf(QWidget& window, QRect area = {}) {
+    area = area.isEmpty() ? window.rect() : area;
+    const double scale = kPixels * std::min(1.0, static_cast<double>(kWidest) / area.width());
+    // Even, so that half of it is whole.
+    const QSize half = (QSizeF(area.size()) * scale / kPixels).toSize();
+    QImage picture(half * kPixels, QImage::Format_RGB32);
     picture.fill(Qt::white);
     QPainter painter(&picture);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                            QPainter::SmoothPixmapTransform);
     painter.scale(scale, scale);
-    window.render(&painter);
+    window.render(&painter, {}, area);
     return picture;
 }
 
@@ -108,15 +112,18 @@ class HelpPictures : public ShellFixture {
     void takeWith(QWidget* popup, const QRect& area, const char* name) {
         ASSERT_NE(popup, nullptr) << name;
         forms::letEventsRun();
-        QPixmap picture = main().grab();
+        QImage picture = pictureOf(main(), area);
         QPainter painter(&picture);
-        const QRect place(main().mapFromGlobal(popup->mapToGlobal(QPoint(0, 0))), popup->size());
-        painter.drawPixmap(place.topLeft(), popup->grab());
+        painter.scale(kPixels, kPixels);
+        const QRect place(main().mapFromGlobal(popup->mapToGlobal(QPoint(0, 0))) - area.topLeft(),
+                          popup->size());
+        const QImage over = pictureOf(*popup);
+        painter.drawImage(place, over);
         painter.setPen(main().palette().color(QPalette::Mid));
         painter.drawRect(place.adjusted(0, 0, -1, -1));
         painter.end();
         popup->close();
-        keep(picture.copy(area).toImage(), QString::fromLatin1(name));
+        keep(picture, QString::fromLatin1(name));
     }
     /// The part of a scene with a HotSpot whose menu is open.
     void takeCanvas() {
