@@ -12,6 +12,7 @@
 #include <QStatusTipEvent>
 #include <QToolBar>
 
+#include "canvas/texts.h"
 #include "forms/form.h"
 #include "forms/look.h"
 #include "shell/path_text.h"
@@ -187,6 +188,9 @@ void Main::applyCommandState(const CommandState& state, const EditorSettings& se
 }
 
 QString Main::whyOff(const Entry& entry, const CommandState& state) {
+    if (entry.command != Command::none && !state.available.contains(entry.command)) {
+        return canvas::windowToCome();
+    }
     return entry.availability == Availability::noProject && state.projectOpen
                ? QStringLiteral("Close the project first.")
                : QString();

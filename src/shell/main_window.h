@@ -96,7 +96,8 @@ class Main : public QMainWindow {
                       Availability availability, EntryKind kind);
     [[nodiscard]] bool isTime(const Entry& entry, const CommandState& state,
                               const EditorSettings& settings) const;
-    /// What the status line says of an entry that is off, where the author can do something.
+    /// What the status line says of an entry that is off: what the author can do, or that its
+    /// window is still to come.
     [[nodiscard]] static QString whyOff(const Entry& entry, const CommandState& state);
     [[nodiscard]] QAction* action(const QString& name) const;
 

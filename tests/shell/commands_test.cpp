@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include <QCoreApplication>
+#include <QEnterEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -395,6 +397,32 @@ TEST_F(Commands, TheEntriesForAnotherProjectSayWhyTheyAreOff) {
     action(q("Filemen(3)")).trigger();
     EXPECT_EQ(action(q("Filemen(1)")).statusTip(), QString());
     EXPECT_EQ(action(q("Filemen(2)")).statusTip(), QString());
+}
+
+TEST_F(Commands, EntriesThatWaitForTheirWindowSaySo) {
+    const QString waits = q("This window is not part of this version yet.");
+    const TestProject files = ProjectBuilder().build(projects.path());
+    for (const bool open : {false, true}) {
+        start(open ? QStringList(text(files.projectPath())) : QStringList());
+        for (const char* entry :
+             {"projmen(0)", "projmen(2)", "projmen(3)", "projmen(4)", "projmen(6)", "projmen(7)",
+              "projmen(8)", "projmen(9)", "projmen(10)", "projmen(13)", "options(2)", "Toolbar1(4)",
+              "Toolbar1(9)", "Toolbar1(11)", "Toolbar1(16)", "Toolbar1(19)"}) {
+            EXPECT_FALSE(action(q(entry)).isEnabled()) << entry;
+            EXPECT_EQ(action(q(entry)).statusTip(), waits) << entry;
+        }
+        for (const char* entry :
+             {"projmen(1)", "projmen(12)", "scnmen(1)", "runmen(0)", "runmen(1)", "Toolbar1(1)",
+              "Toolbar1(10)", "Toolbar1(26)", "Toolbar1(33)"}) {
+            EXPECT_NE(action(q(entry)).statusTip(), waits) << entry;
+        }
+        // A button that is off tells it as well.
+        QWidget* button = control<QToolBar>(main(), q("Toolbar1")).widgetForAction(&tool(9));
+        QEnterEvent enter({2, 2}, {2, 2}, {2, 2});
+        QCoreApplication::sendEvent(button, &enter);
+        EXPECT_EQ(control<QLabel>(main(), q("StatusTip")).text(), waits);
+        leave();
+    }
 }
 
 TEST_F(Commands, AProjectStaysOpenUntilAnotherIsChosen) {
