@@ -1,7 +1,6 @@
 #include "forms/form.h"
 
 #include <algorithm>
-#include <utility>
 
 #include <QBoxLayout>
 #include <QPushButton>
@@ -36,21 +35,25 @@ int Form::heightOfContent() const {
                                         : content->totalMinimumSize().height();
 }
 
-/// Something came into the window, such as a line below a box. A window that the author has made
-/// too low stays as it is; one that the screen has no room for scrolls from then on.
+/// Something came into the window that was not in it before, such as a line below a box. A window
+/// that is lower than it was made here, by the author or for a movie, stays as it is; one that the
+/// screen has no room for scrolls from then on.
 void Form::growWithContent() {
-    const int before = std::exchange(contentHeight_, heightOfContent());
-    if (contentHeight_ <= height() || height() < before || screen() == nullptr) {
+    const int needed = heightOfContent();
+    const bool isMore = needed > contentHeight_;
+    contentHeight_ = std::max(contentHeight_, needed);
+    if (!isMore || needed <= height() || height() < givenHeight_ || screen() == nullptr) {
         return;
     }
     const QRect area = screen()->availableGeometry();
     const QSize room = area.size() - kFrameRoom;
-    QSize wanted(width(), contentHeight_);
+    QSize wanted(width(), needed);
     if (scroll_ == nullptr && wanted.height() > room.height()) {
         letContentScroll();
         wanted.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, scroll_);
     }
     resize(wanted.boundedTo(room));
+    givenHeight_ = height();
     const int below = frameGeometry().bottom() - area.bottom();
     if (below > 0) {
         move(x(), std::max(area.top(), y() - below));
@@ -79,6 +82,7 @@ void Form::showEvent(QShowEvent* event) {
     }
     resize(wanted.boundedTo(room));
     contentHeight_ = heightOfContent();
+    givenHeight_ = height();
     const QSize size = frameGeometry().size();
     const bool large = area.width() > 800 && area.height() > 600;
     move(area.left() + (area.width() - size.width()) / 2,

@@ -66,7 +66,8 @@ class Form : public QDialog {
     QLayout* foot_ = nullptr;
     QWidget* standingFoot_ = nullptr;
     QScrollArea* scroll_ = nullptr;
-    int contentHeight_ = 0;  // what the content needed when it was last looked at
+    int contentHeight_ = 0;  // the most that the content has needed since the window was shown
+    int givenHeight_ = 0;    // of the window, as it was last made here
 };
 
 /// The standard distance between a window's frame and its content, and between groups, in pixels.

@@ -43,9 +43,9 @@ void alignWith(const QGridLayout& sounds, QGridLayout* grid) {
                 width = std::max(width, item->sizeHint().width());
             }
         }
-        // A column without anything has no distance to the next one.
-        const bool any = grid->itemAtPosition(0, column) != nullptr;
-        grid->setColumnMinimumWidth(column, any ? width : width + grid->horizontalSpacing());
+        // The lines below the boxes reach over all columns, so that even an empty one has a
+        // distance to the next.
+        grid->setColumnMinimumWidth(column, width);
     }
 }
 

@@ -1,6 +1,7 @@
 // What the lines below the boxes of files say in the windows that have such boxes.
 #include <gtest/gtest.h>
 
+#include "forms/events.h"
 #include "forms/note_line.h"
 #include "objects/editor_author.h"
 
@@ -81,6 +82,31 @@ TEST_F(FileNotes, EveryBoxOfTheWindowHasItsLine) {
                   QStringLiteral("The preview cannot show \"a.gif\".  It is damaged.  Every player "
                                  "knows .bmp, .gif and .jpg."));
         hand.click("Command4");
+    });
+}
+
+TEST_F(FileNotes, TheRowsStandUnderEachOtherWithLinesAndWithout) {
+    editSceneMedia([this](const Hand& hand) {
+        const auto place = [&hand](const char* name) {
+            const auto& widget = hand.get<QWidget>(name);
+            return std::pair(widget.mapTo(&hand.window(), QPoint()).x(), widget.width());
+        };
+        const auto expectAligned = [&] {
+            for (const char* file : {"MEN(4)", "MEN(5)", "MidiFile"}) {
+                EXPECT_EQ(place(file), place("SE(1)")) << file;
+            }
+            for (const char* slider : {"Hscroll1(4)", "Hscroll1(5)", "Hscroll1(0)"}) {
+                EXPECT_EQ(place(slider), place("Hscroll1(1)")) << slider;
+            }
+        };
+        expectAligned();
+        const int height = hand.window().height();
+        choose(hand, "LME(4)", "waltz.mp3");
+        choose(hand, "locatebutton(1)", "noise.ogg");
+        forms::letEventsRun();
+        expectAligned();
+        EXPECT_EQ(hand.window().height(), height) << "there is room on this page";
+        hand.click("Command2");
     });
 }
 
