@@ -119,7 +119,7 @@ void GifBlocks::endBlock() {
 
 PictureFile::PictureFile(const std::filesystem::path& file) : path_(file) {}
 
-bool PictureFile::open() {
+bool PictureFile::openToRead() {
     constexpr qint64 kSignature = 6;
     if (!resources::openToRead(file_, path_)) {
         return false;

@@ -59,7 +59,7 @@ class PictureFile : public QIODevice {
     explicit PictureFile(const std::filesystem::path& file);
 
     /// Opens the file for reading.
-    bool open();
+    bool openToRead();
 
     [[nodiscard]] qint64 size() const override;
     bool seek(qint64 position) override;

@@ -58,7 +58,7 @@ PicturePtr failed(Picture::Problem problem) {
 
 PicturePtr decode(const fs::path& path) {
     PictureFile file(path);
-    if (!file.open()) {
+    if (!file.openToRead()) {
         return failed(Picture::Problem::refused);
     }
     QImageReader reader(&file);

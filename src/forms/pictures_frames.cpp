@@ -11,7 +11,7 @@ int frameDelay(int delay) {
 }
 
 FrameStream::FrameStream(const std::filesystem::path& file) : file_(file) {
-    if (file_.open()) {
+    if (file_.openToRead()) {
         reader_.setDevice(&file_);
     }
 }

@@ -66,7 +66,7 @@ class Track {
         if (status_ < 0x80 || status_ > 0xEF) {
             return false;
         }
-        at_ += status_ >> 4 == 0xC || status_ >> 4 == 0xD ? 1 : 2;
+        at_ += status_ >> 4 == 0xC || status_ >> 4 == 0xD ? 1U : 2U;
         return true;
     }
 

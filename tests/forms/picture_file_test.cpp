@@ -47,7 +47,7 @@ class PictureFiles : public testing::Test {
 TEST_F(PictureFiles, NothingBehindTheTrailerIsRead) {
     const std::string gif = moving();
     PictureFile file(withHole(gif));
-    ASSERT_TRUE(file.open());
+    ASSERT_TRUE(file.openToRead());
     EXPECT_EQ(framesOf(file), 3);
     EXPECT_EQ(file.reached(), static_cast<qint64>(gif.size()));
     EXPECT_EQ(file.size(), static_cast<qint64>(gif.size())) << "and the file counts as ended";
@@ -57,7 +57,7 @@ TEST_F(PictureFiles, NothingBehindTheTrailerIsRead) {
 TEST_F(PictureFiles, NothingIsReadBehindWhatIsNoBlock) {
     const std::string gif = moving().substr(0, moving().size() - 1);  // without its trailer
     PictureFile file(withHole(gif));
-    ASSERT_TRUE(file.open());
+    ASSERT_TRUE(file.openToRead());
     EXPECT_EQ(framesOf(file), 3);
     EXPECT_EQ(file.reached(), static_cast<qint64>(gif.size()) + 1);
 }
@@ -65,14 +65,14 @@ TEST_F(PictureFiles, NothingIsReadBehindWhatIsNoBlock) {
 TEST_F(PictureFiles, AGifWithoutAFrameEndsAtItsTrailerToo) {
     const std::string gif = test::gifBytes(4, 4, {});
     PictureFile file(withHole(gif));
-    ASSERT_TRUE(file.open());
+    ASSERT_TRUE(file.openToRead());
     EXPECT_EQ(framesOf(file), 0);
     EXPECT_EQ(file.reached(), static_cast<qint64>(gif.size()));
 }
 
 TEST_F(PictureFiles, NoFileIsReadFartherThanTheLargestPicture) {
     PictureFile file(withHole(test::bmpBytes(4, 4)));
-    ASSERT_TRUE(file.open());
+    ASSERT_TRUE(file.openToRead());
     EXPECT_EQ(file.size(), PictureFile::kMostBytes);
     EXPECT_EQ(framesOf(file), 1);
     EXPECT_LE(file.reached(), kAhead);
@@ -93,7 +93,7 @@ TEST_F(PictureFiles, TheRoundsAreThoseThatTheReaderFinds) {
     for (const std::string& bytes : files) {
         test::writeBytes(folder_ / "b.gif", bytes);
         PictureFile file(folder_ / "b.gif");
-        ASSERT_TRUE(file.open());
+        ASSERT_TRUE(file.openToRead());
         EXPECT_EQ(framesOf(file), 3);
         QImageReader reader(QString::fromStdString((folder_ / "b.gif").string()));
         EXPECT_EQ(file.loopCount(), reader.loopCount()) << bytes.size();
@@ -108,7 +108,7 @@ TEST_F(PictureFiles, ATableOfColoursMayHoldAnyByte) {
     gif[flags] = '\x86';
     gif.insert(flags + 1, std::string(3 * 128, ';'));
     PictureFile file(withHole(gif));
-    ASSERT_TRUE(file.open());
+    ASSERT_TRUE(file.openToRead());
     EXPECT_EQ(framesOf(file), 2);
     EXPECT_EQ(file.reached(), static_cast<qint64>(gif.size()));
 }

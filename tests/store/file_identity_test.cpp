@@ -13,15 +13,6 @@ namespace fs = std::filesystem;
 using test::TempFolder;
 using test::writeBytes;
 
-struct Closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using OpenFile = std::unique_ptr<std::FILE, Closer>;
-
-OpenFile openFile(const fs::path& path) {
-    return OpenFile(std::fopen(path.string().c_str(), "rb"));
-}
-
 class FileIdentityTest : public ::testing::Test {
   protected:
     FileIdentityTest() { writeBytes(path_, "0123456789"); }
@@ -31,7 +22,7 @@ class FileIdentityTest : public ::testing::Test {
 
 #ifndef _WIN32
 TEST_F(FileIdentityTest, TheSystemsNumbersDecideWhereItHasThem) {
-    const OpenFile file = openFile(path_);
+    const test::OpenFile file = test::openFile(path_, "rb");
     const FileIdentity identity(file.get(), path_);
     EXPECT_EQ(identity.find(file.get(), path_, 10), FoundFile::same);
     EXPECT_EQ(identity.find(file.get(), path_, 11), FoundFile::same) << "whatever its length";
@@ -48,7 +39,7 @@ TEST_F(FileIdentityTest, TheSystemsNumbersDecideWhereItHasThem) {
 TEST_F(FileIdentityTest, NumbersThatDidNotHoldAtTheOpeningAreNotAskedLater) {
     // As on a disk that counts its files anew at each question.
     writeBytes(folder_ / "other", "0123456789");
-    const OpenFile other = openFile(folder_ / "other");
+    const test::OpenFile other = test::openFile(folder_ / "other", "rb");
     const FileIdentity identity(other.get(), path_);
     EXPECT_EQ(identity.find(other.get(), path_, 10), FoundFile::same);
     EXPECT_EQ(identity.find(other.get(), path_, 9), FoundFile::another);

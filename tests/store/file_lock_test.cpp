@@ -16,16 +16,11 @@ namespace {
 namespace fs = std::filesystem;
 using test::TempFolder;
 
-struct Closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, Closer>;
-
 class Locks : public ::testing::Test {
   protected:
     Locks() { test::writeBytes(path_, "abc"); }
-    [[nodiscard]] File open(const char* mode) const {
-        return File(std::fopen(path_.string().c_str(), mode));
+    [[nodiscard]] test::OpenFile open(const char* mode) const {
+        return test::openFile(path_, mode);
     }
 
     TempFolder folder_;
@@ -33,8 +28,8 @@ class Locks : public ::testing::Test {
 };
 
 TEST_F(Locks, TheSecondIsToldUntilTheFirstIsClosed) {
-    File first = open("r+b");
-    const File second = open("r+b");
+    test::OpenFile first = open("r+b");
+    const test::OpenFile second = open("r+b");
     EXPECT_EQ(tryLock(first.get()), FileLock::taken);
     EXPECT_EQ(tryLock(first.get()), FileLock::taken) << "asking again changes nothing";
     EXPECT_EQ(tryLock(second.get()), FileLock::heldByAnother);
@@ -43,23 +38,23 @@ TEST_F(Locks, TheSecondIsToldUntilTheFirstIsClosed) {
 }
 
 TEST_F(Locks, ALockOutlivesOtherOpeningsOfTheSameFile) {
-    const File first = open("r+b");
+    const test::OpenFile first = open("r+b");
     ASSERT_EQ(tryLock(first.get()), FileLock::taken);
     open("rb").reset();
-    const File second = open("r+b");
+    const test::OpenFile second = open("r+b");
     EXPECT_EQ(tryLock(second.get()), FileLock::heldByAnother);
 }
 
 TEST_F(Locks, AReaderIsToldToo) {
-    const File first = open("r+b");
-    const File second = open("rb");
+    const test::OpenFile first = open("r+b");
+    const test::OpenFile second = open("rb");
     ASSERT_EQ(tryLock(first.get()), FileLock::taken);
     EXPECT_EQ(tryLock(second.get()), FileLock::heldByAnother);
 }
 
 TEST_F(Locks, WritesNothingAndHindersNobody) {
     const auto before = test::snapshotOf(folder_.path());
-    const File first = open("r+b");
+    const test::OpenFile first = open("r+b");
     ASSERT_EQ(tryLock(first.get()), FileLock::taken);
     EXPECT_EQ(test::differences(before, test::snapshotOf(folder_.path())), "");
     test::patchBytes(path_, 1, "x");
@@ -69,7 +64,7 @@ TEST_F(Locks, WritesNothingAndHindersNobody) {
 #ifdef __linux__
 TEST_F(Locks, WhereThereAreNoneIsNoFailure) {
     // As on a file system without locks: this way of opening knows none.
-    const File file(::fdopen(::open(path_.c_str(), O_PATH), "rb"));
+    const test::OpenFile file(::fdopen(::open(path_.c_str(), O_PATH), "rb"));
     ASSERT_TRUE(file);
     EXPECT_EQ(tryLock(file.get()), FileLock::unavailable);
 }

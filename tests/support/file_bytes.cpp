@@ -17,6 +17,14 @@ namespace fs = std::filesystem;
 
 }  // namespace
 
+OpenFile openFile(const std::filesystem::path& path, const char* mode) {
+    OpenFile file(std::fopen(path.string().c_str(), mode));
+    if (file == nullptr) {
+        throw std::runtime_error("cannot open " + path.string());
+    }
+    return file;
+}
+
 std::string readBytes(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     if (!file) {

@@ -3,12 +3,21 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdio>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 
 namespace quorvel::test {
+
+/// A file of the C library, closed with its owner.
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using OpenFile = std::unique_ptr<std::FILE, FileCloser>;
+OpenFile openFile(const std::filesystem::path& path, const char* mode);
 
 /// The whole file.
 std::string readBytes(const std::filesystem::path& path);
