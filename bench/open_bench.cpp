@@ -29,7 +29,9 @@ class NoBoxes : public quorvel::forms::Boxes {
 
 class NoDialogs : public quorvel::forms::FileDialogs {
   public:
-    QString openFile(const quorvel::forms::FileQuestion& /*question*/) override { return {}; }
+    quorvel::forms::FileAnswer openFile(const quorvel::forms::FileQuestion& /*question*/) override {
+        return {};
+    }
     QString chooseFolder(const quorvel::forms::FileQuestion& /*question*/) override { return {}; }
 };
 
@@ -83,18 +85,24 @@ int run(bool check) {
     NoBoxes boxes;
     NoDialogs dialogs;
     NoPrograms programs;
-    quorvel::shell::Shell shell({.boxes = boxes,
-                                 .dialogs = dialogs,
-                                 .programs = programs,
-                                 .screenSize = [] { return QSize(1280, 800); },
-                                 .random = [] { return 0.5; },
-                                 .quit = [] {},
-                                 .beep = [] {},
-                                 .makePreview = preview,
-                                 .machineValue = quorvel::shell::readMachineValue,
-                                 .programFolder = QCoreApplication::applicationDirPath(),
-                                 .userFolder = folder.path(),
-                                 .arguments = {}});
+    quorvel::shell::Shell shell(
+        {.boxes = boxes,
+         .dialogs = dialogs,
+         .programs = programs,
+         .screens =
+             [] {
+                 const QRect whole(0, 0, 1280, 800);
+                 return std::vector{quorvel::shell::ScreenPlace{whole, whole}};
+             },
+         .random = [] { return 0.5; },
+         .quit = [] {},
+         .beep = [] {},
+         .complain = [](const QString& /*line*/) {},
+         .makePreview = preview,
+         .machineValue = quorvel::shell::readMachineValue,
+         .programFolder = QCoreApplication::applicationDirPath(),
+         .userFolder = folder.path(),
+         .arguments = {}});
     for (const auto& loadForm : shell.loadForms()) {
         loadForm();
     }

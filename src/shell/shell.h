@@ -74,7 +74,7 @@ class Shell : public QObject {
     /// window. False when the author, or a failure that was told, wants the session to go on.
     bool saveForSession(bool mayAsk);
 
-    /// Brings the main window to the front, and the one that stands before it.
+    /// Brings the main window to the front.
     void activate();
 
     /// Tells a line to whoever started the program.

@@ -80,14 +80,15 @@ void Shell::activate() {
     }
     main_->raise();
     main_->activateWindow();
-    if (QWidget* front = QApplication::activeModalWidget()) {
-        front->raise();
-        front->activateWindow();
-    }
 }
 
 void Shell::openWhenFree(const QStringList& projects) {
     activate();
+    // What stands before the main window stays there.
+    if (QWidget* front = QApplication::activeModalWidget()) {
+        front->raise();
+        front->activateWindow();
+    }
     waiting_ += projects;
     openWaiting();
 }
