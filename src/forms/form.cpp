@@ -37,18 +37,18 @@ int Form::heightOfContent() const {
 
 /// Something came into the window that was not in it before, such as a line below a box. A window
 /// that is lower than it was made here, by the author or for a movie, stays as it is; one that the
-/// screen has no room for scrolls from then on.
+/// screen has no room for scrolls from then on, also where its layout has made it higher already.
 void Form::growWithContent() {
     const int needed = heightOfContent();
     const bool isMore = needed > contentHeight_;
     contentHeight_ = std::max(contentHeight_, needed);
-    if (!isMore || needed <= height() || height() < givenHeight_ || screen() == nullptr) {
+    if (!isMore || height() < givenHeight_ || screen() == nullptr) {
         return;
     }
     const QRect area = screen()->availableGeometry();
     const QSize room = area.size() - kFrameRoom;
-    QSize wanted(width(), needed);
-    if (scroll_ == nullptr && wanted.height() > room.height()) {
+    QSize wanted(width(), std::max(needed, height()));
+    if (scroll_ == nullptr && needed > room.height()) {
         letContentScroll();
         wanted.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, scroll_);
     }

@@ -347,7 +347,8 @@ void HelpWindow::standAside() {
     }
     const QRect screen = other->screen()->availableGeometry();
     const QRect theirs = other->frameGeometry();
-    const QSize frame = theirs.size() - other->size();  // ours is unknown before the first time
+    // Ours is unknown before the first time, and a maximised window has none.
+    const QSize frame = (theirs.size() - other->size()).expandedTo(forms::kFrameRoom);
     if (isVisible() && aside_ != nullptr && screen.contains(frameGeometry().center()) &&
         !frameGeometry().intersects(theirs)) {
         aside_ = other;

@@ -16,7 +16,11 @@ using forms::Look;
 
 class LevelLooks : public ::testing::TestWithParam<Look> {
   protected:
-    LevelLooks() { forms::applyLook(*qApp, GetParam()); }
+    LevelLooks() {
+        forms::applyLook(*qApp, GetParam());
+        // A window that is older takes its colours when it is shown first.
+        window.setPalette(QApplication::palette());
+    }
     ~LevelLooks() override { QApplication::setPalette(before); }
 
     /// The strongest contrast to the window in the columns from `left` to `right` of a slider.
