@@ -1,7 +1,5 @@
 #include "forms/note_line.h"
 
-#include <algorithm>
-
 #include <QAccessible>
 #include <QPainter>
 #include <QTextLayout>
@@ -53,7 +51,8 @@ int NoteLine::heightForWidth(int width) const {
 }
 
 QSize NoteLine::minimumSizeHint() const {
-    return {kNarrow, heightForWidth(std::max(kNarrow, width()))};
+    // Layouts ask for the height by the width that they give; what is asked here is asked before.
+    return {kNarrow, heightForWidth(QWIDGETSIZE_MAX)};
 }
 
 QSize NoteLine::sizeHint() const {
