@@ -3,12 +3,14 @@
 
 #include <QTimer>
 
-#include "support/windows/shell_fixture.h"
+#include "shell/scene_fixture.h"
+#include "support/gif_bytes.h"
 
 namespace quorvel::test {
 namespace {
 
 class HandedOver : public ShellFixture {};
+class HandedOverWhileDragging : public SceneFixture {};
 
 TEST_F(HandedOver, ProjectsThatAreHandedOverAreOpenedInOrder) {
     const TestProject one = ProjectBuilder().title("One").build(projects.makeFolder("one"));
@@ -55,6 +57,27 @@ TEST_F(HandedOver, AProjectThatIsHandedOverDuringAnOpeningComesAfterIt) {
     ASSERT_TRUE(waitUntil(
         [this] { return main().windowTitle() == QStringLiteral("Quorvel - Two"); }, 20000));
     EXPECT_EQ(shell->settings().RecentProj[1], text(one.projectPath()));
+}
+
+TEST_F(HandedOverWhileDragging, AProjectWaitsUntilTheObjectIsLetGo) {
+    open(ProjectBuilder()
+             .title("One")
+             .gfx("a.gif", stillGif(40, 30))
+             .object(1, 3, 0, 100, 120, "a.gif"));
+    const TempFolder elsewhere;
+    const TestProject two = ProjectBuilder().title("Two").build(elsewhere.path());
+    press({110, 130});
+    shell->openWhenFree({text(two.projectPath())});
+    ASSERT_TRUE(shell->actions().dragging().isDragging());
+    // Whoever wants to open it is asked later than any timer that opens it.
+    bool later = false;
+    QTimer::singleShot(350, [&later] { later = true; });
+    ASSERT_TRUE(waitUntil([&later] { return later; }, 20000));
+    EXPECT_EQ(main().windowTitle(), QStringLiteral("Quorvel - One"));
+    EXPECT_TRUE(shell->actions().dragging().isDragging());
+    release({210, 230});
+    ASSERT_TRUE(waitUntil(
+        [this] { return main().windowTitle() == QStringLiteral("Quorvel - Two"); }, 20000));
 }
 
 TEST_F(HandedOver, AProjectThatIsHandedOverAndOpenStaysAsItIs) {
