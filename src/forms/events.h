@@ -7,4 +7,8 @@ namespace quorvel::forms {
 /// that no routine is entered a second time from within.
 void letEventsRun();
 
+/// Whether a routine is under way that lets events run at the moment: what would begin another one,
+/// such as a timer, has to wait for its end.
+bool isWithinRoutine();
+
 }  // namespace quorvel::forms

@@ -52,8 +52,7 @@ int FileChoice::firstKind(const FileField& field, const QString& current) const 
     if (last != kinds.end() && (own == kinds.end() || isCurrent(*last))) {
         return static_cast<int>(last - kinds.begin());
     }
-    const bool isFirstOfAll = lastKind_.isEmpty();
-    return own == kinds.end() || isFirstOfAll ? 0 : static_cast<int>(own - kinds.begin());
+    return own == kinds.end() || !hasAsked_ ? 0 : static_cast<int>(own - kinds.begin());
 }
 
 std::optional<ChosenFile> FileChoice::choose(const FileField& field) {
@@ -76,6 +75,7 @@ std::optional<ChosenFile> FileChoice::choose(const FileField& field) {
                            .folder = resources::pathText(folder) + QLatin1Char('/'),
                            .fileName = name,
                            .kind = firstKind(field, name)});
+    hasAsked_ = true;
     if (chosen.path.isEmpty()) {
         return std::nullopt;
     }

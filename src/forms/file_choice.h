@@ -97,7 +97,8 @@ class FileChoice {
     FileDialogs& dialogs_;
     resources::Intake& intake_;
     std::map<store::ResourceFolder, Place> last_;
-    QStringList lastKind_;  // the patterns of the kind that was chosen last, sorted
+    bool hasAsked_ = false;  // a dialog was shown in this run
+    QStringList lastKind_;   // the patterns of the kind that was chosen last, sorted
 };
 
 }  // namespace quorvel::forms

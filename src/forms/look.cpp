@@ -100,6 +100,7 @@ class OutlinedStyle : public QProxyStyle {
         switch (hint) {
             case SH_EtchDisabledText:
             case SH_DialogButtonBox_ButtonsHaveIcons:
+            case SH_TabBar_AllowWheelScrolling:  // a wheel in passing turns no page
                 return 0;
             case SH_DialogButtonLayout:
                 return QDialogButtonBox::WinLayout;

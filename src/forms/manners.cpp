@@ -108,6 +108,7 @@ bool Manners::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::MouseButtonRelease:
             if (QLineEdit* line = lineOf(watched);
                 line != nullptr && line->isReadOnly() && line->isEnabled() &&
+                line->focusPolicy() != Qt::NoFocus &&
                 static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton &&
                 !line->hasSelectedText()) {
                 line->selectAll();

@@ -64,7 +64,8 @@ void FileBox::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void FileBox::keyPressEvent(QKeyEvent* event) {
-    if (clearable_ && event->matches(QKeySequence::Delete)) {
+    if (clearable_ && event->key() == Qt::Key_Delete &&
+        (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
         if (!text().isEmpty()) {
             Q_EMIT clearWanted();
         }

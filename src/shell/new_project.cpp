@@ -207,6 +207,15 @@ bool NewProject::checkFolder() {
     const QString folder = fullFolder(folder_->text());
     const ProjectPlace place =
         lookInto(resources::pathOf(folder), name_->text() + QStringLiteral(".qvl"));
+    if (place.isUnreadable) {
+        work_.boxes.show(
+            {.text = QStringLiteral("It cannot be seen what lies in this folder:\n\n%1\n\n"
+                                    "Please choose another one, or a new one in it.")
+                         .arg(folder),
+             .title = windowTitle(),
+             .icon = forms::Box::Icon::exclamation});
+        return false;
+    }
     if (place.isEmpty() || place.hasResource) {
         return true;
     }

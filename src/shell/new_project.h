@@ -31,6 +31,7 @@ class NewProject : public forms::Form {
 
     /// Closing the window does nothing while the project is being made.
     void reject() override;
+    [[nodiscard]] bool isWorking() const override { return working_; }
 
   private:
     void build();

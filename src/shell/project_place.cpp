@@ -57,6 +57,8 @@ ProjectPlace lookInto(const fs::path& folder, const QString& fileName) {
             ++place.others;
         }
     }
+    std::error_code gone;
+    place.isUnreadable = error && fs::exists(folder, gone);
     std::ranges::sort(place.replaced);
     return place;
 }

@@ -27,9 +27,10 @@ QString projectName(const QString& text);
 /// The full form of `folder`, which the author has chosen, with a separator at its end.
 QString fullFolder(const QString& folder);
 
-/// What lies in a folder. One that is not there or cannot be read counts as empty: making the
-/// project fails there, and says why.
+/// What lies in a folder. One that is not there counts as empty: making the project fails there,
+/// and says why.
 struct ProjectPlace {
+    bool isUnreadable = false;      ///< it is there, and what it holds cannot be told
     bool hasResource = false;       ///< something is called `resource`, in any letter case
     std::vector<QString> replaced;  ///< what a new project would replace, as spelt there
     int others = 0;                 ///< files and folders that would stay

@@ -51,6 +51,11 @@ std::vector<ScreenPlace> screensOfTheMachine() {
         screens.push_back(
             {screen->geometry(), screen->availableGeometry(), screen->devicePixelRatio()});
     }
+    if (screens.empty()) {
+        // All outputs may be off at the moment.
+        const QRect smallest(0, 0, 800, 600);
+        screens.push_back({smallest, smallest});
+    }
     return screens;
 }
 

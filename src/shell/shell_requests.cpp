@@ -4,6 +4,7 @@
 
 #include <QApplication>
 
+#include "forms/events.h"
 #include "groups/property_form.h"
 #include "resources/path_text.h"
 #include "shell/shell.h"
@@ -95,8 +96,8 @@ void Shell::openWhenFree(const QStringList& projects) {
 
 bool Shell::isFree() const {
     return EditorRunning && !isStarting_ && !shuttingDown_ && !isUnattended_ && !isOpening_ &&
-           !project_.ProjectLoading && !actions_->dragging().isDragging() &&
-           QApplication::activeModalWidget() == nullptr &&
+           !forms::isWithinRoutine() && !project_.ProjectLoading &&
+           !actions_->dragging().isDragging() && QApplication::activeModalWidget() == nullptr &&
            QApplication::activePopupWidget() == nullptr;
 }
 

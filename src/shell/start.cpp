@@ -48,10 +48,11 @@ bool StartForm::begin(const QStringList& projects) {
         case SingleInstance::Claim::handed:
             return false;
     }
+    // From here on others may hand over their projects, also while the author is asked something.
+    connect(&instance_, &SingleInstance::activationAsked, &shell_, &Shell::openWhenFree);
     if (!shell_.CheckRes()) {
         return false;
     }
-    connect(&instance_, &SingleInstance::activationAsked, &shell_, &Shell::openWhenFree);
     splash_ = std::make_unique<InitQV>(
         InitQV::Work{shell_.loadForms(), [this] { shell_.InitializeEditor(); }});
     connect(splash_.get(), &InitQV::finished, this, [this] { splash_.release()->deleteLater(); });

@@ -3,6 +3,7 @@
 
 #include <QTimer>
 
+#include "forms/events.h"
 #include "shell/scene_fixture.h"
 #include "support/gif_bytes.h"
 
@@ -57,6 +58,23 @@ TEST_F(HandedOver, AProjectThatIsHandedOverDuringAnOpeningComesAfterIt) {
     ASSERT_TRUE(waitUntil(
         [this] { return main().windowTitle() == QStringLiteral("Quorvel - Two"); }, 20000));
     EXPECT_EQ(shell->settings().RecentProj[1], text(one.projectPath()));
+}
+
+TEST_F(HandedOver, AProjectWaitsForTheRoutineThatLetsEventsRun) {
+    const TestProject one = ProjectBuilder().title("One").build(projects.makeFolder("one"));
+    const TestProject two = ProjectBuilder().title("Two").build(projects.makeFolder("two"));
+    start({text(one.projectPath())});
+    bool asked = false;
+    QTimer::singleShot(0, shell.get(), [&] {
+        asked = true;
+        shell->openWhenFree({text(two.projectPath())});
+    });
+    while (!asked) {
+        forms::letEventsRun();
+    }
+    EXPECT_EQ(main().windowTitle(), QStringLiteral("Quorvel - One")) << "it would be half-way";
+    ASSERT_TRUE(waitUntil(
+        [this] { return main().windowTitle() == QStringLiteral("Quorvel - Two"); }, 20000));
 }
 
 TEST_F(HandedOverWhileDragging, AProjectWaitsUntilTheObjectIsLetGo) {
